@@ -1,0 +1,14 @@
+# SPDX-License-Identifier: MIT
+# Language, warnings and sanitizers, the same for the library, its tests, examples and benchmarks.
+function(zrxml_compile_options target)
+  set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+  if(ZRXML_WARNINGS_AS_ERRORS)
+    target_compile_options(${target} PRIVATE -Werror)
+  endif()
+  if(ZRXML_SANITIZE)
+    target_compile_options(${target} PRIVATE
+      -fsanitize=${ZRXML_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(${target} PRIVATE -fsanitize=${ZRXML_SANITIZE})
+  endif()
+endfunction()

@@ -1,0 +1,28 @@
+# SPDX-License-Identifier: MIT
+# The installed tree: library, headers of both namespaces, CMake package and pkg-config file. It may be moved as a whole.
+include(CMakePackageConfigHelpers)
+
+set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/ZrXmlLib16")
+
+install(TARGETS ZrXmlLib16 EXPORT ZrXmlLib16Targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/ZrXmlLib16" "${PROJECT_SOURCE_DIR}/include/ZrXmlLib16Data"
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+install(EXPORT ZrXmlLib16Targets NAMESPACE ZrXmlLib16:: DESTINATION ${package_dir})
+
+configure_package_config_file("${CMAKE_CURRENT_LIST_DIR}/ZrXmlLib16Config.cmake.in"
+  "${CMAKE_CURRENT_BINARY_DIR}/ZrXmlLib16Config.cmake" INSTALL_DESTINATION ${package_dir})
+# A generated class belongs to one minor version, so another one is refused.
+write_basic_package_version_file("${CMAKE_CURRENT_BINARY_DIR}/ZrXmlLib16ConfigVersion.cmake"
+  COMPATIBILITY SameMinorVersion)
+install(FILES
+  "${CMAKE_CURRENT_BINARY_DIR}/ZrXmlLib16Config.cmake"
+  "${CMAKE_CURRENT_BINARY_DIR}/ZrXmlLib16ConfigVersion.cmake"
+  DESTINATION ${package_dir})
+
+# Paths in the pkg-config file start at the place where it lies.
+file(RELATIVE_PATH ZRXML_PC_TO_PREFIX "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig" "${CMAKE_INSTALL_PREFIX}")
+string(REGEX REPLACE "/$" "" ZRXML_PC_TO_PREFIX "${ZRXML_PC_TO_PREFIX}")
+file(RELATIVE_PATH ZRXML_PC_LIBDIR "${CMAKE_INSTALL_PREFIX}" "${CMAKE_INSTALL_FULL_LIBDIR}")
+file(RELATIVE_PATH ZRXML_PC_INCLUDEDIR "${CMAKE_INSTALL_PREFIX}" "${CMAKE_INSTALL_FULL_INCLUDEDIR}")
+configure_file("${CMAKE_CURRENT_LIST_DIR}/ZrXmlLib16.pc.in" "${CMAKE_CURRENT_BINARY_DIR}/ZrXmlLib16.pc" @ONLY)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/ZrXmlLib16.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
