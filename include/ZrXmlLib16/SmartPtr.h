@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZRXMLLIB16_SMARTPTR_H
+#define ZRXMLLIB16_SMARTPTR_H
+
+#include "ZrXmlLib16/Export.h"
+
+namespace ZrXmlLib16 {
+
+/// Intrusive pointer to a reference-counted object (CXmlObjectBase and its derived classes).
+///
+/// Calls AddRef on taking an object and Release on dropping it; moving calls neither. A new object counts 0 references, so
+/// `CSmartPtr<T> p(new T)` ends with exactly one destruction, and an object on the stack must never be put into a CSmartPtr.
+/// One pointer belongs to one thread; the object behind it may be shared.
+template <class T> class CSmartPtr {
+public:
+    CSmartPtr() noexcept
+        : m_object(nullptr)
+    {
+    }
+    /// @param object may be null.
+    CSmartPtr(T* object)
+        : m_object(object)
+    {
+        Acquire();
+    }
+    CSmartPtr(const CSmartPtr& other)
+        : m_object(other.m_object)
+    {
+        Acquire();
+    }
+    CSmartPtr(CSmartPtr&& other) noexcept
+        : m_object(other.m_object)
+    {
+        other.m_object = nullptr;
+    }
+    template <class U>
+    CSmartPtr(const CSmartPtr<U>& other)
+        : m_object(other.GetPtr())
+    {
+        Acquire();
+    }
+    ~CSmartPtr() { Drop(); }
+
+    CSmartPtr& operator=(const CSmartPtr& other) { return *this = other.m_object; }
+    CSmartPtr& operator=(CSmartPtr&& other) noexcept
+    {
+        CSmartPtr taken(static_cast<CSmartPtr&&>(other));
+        Swap(taken);
+        return *this;
+    }
+    CSmartPtr& operator=(T* object)
+    {
+        CSmartPtr taken(object);
+        Swap(taken);
+        return *this;
+    }
+
+    T* operator->() const { return m_object; }
+    T& operator*() const { return *m_object; }
+    operator T*() const { return m_object; }
+    T* GetPtr() const { return m_object; }
+
+private:
+    void Acquire()
+    {
+        if (m_object) {
+            m_object->AddRef();
+        }
+    }
+    void Swap(CSmartPtr& other) noexcept
+    {
+        T* object = m_object;
+        m_object = other.m_object;
+        other.m_object = object;
+    }
+    void Drop()
+    {
+        if (m_object) {
+            m_object->Release();
+        }
+    }
+
+    T* m_object;
+};
+
+} // namespace ZrXmlLib16
+
+#endif

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZRXMLLIB16_STRINGBUFFER_H
+#define ZRXMLLIB16_STRINGBUFFER_H
+
+#include "ZrXmlLib16/Export.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace ZrXmlLib16 {
+
+/// Text that grows in blocks of a fixed size.
+///
+/// No block is ever reallocated, so appending never moves earlier text. Every block but the last one is full. Not
+/// synchronised.
+class ZRXML_API CStringBuffer {
+public:
+    /// A buffer of blocks of 4095 characters.
+    CStringBuffer();
+    /// A buffer of blocks of n - 1 characters; n below 2 counts as 2.
+    explicit CStringBuffer(unsigned long n);
+    virtual ~CStringBuffer();
+
+    void Append(wchar_t c);
+    /// @param text NUL-terminated, may be part of this buffer; null is empty text.
+    void Append(const wchar_t* text);
+    void Append(const std::wstring& text);
+    /// Appends a run of characters.
+    /// @param text may be part of this buffer; may be null when the length is 0.
+    void Append(const wchar_t* text, unsigned long length);
+    /// Replaces the content. @param text may be part of this buffer; null is empty text.
+    void SetText(const wchar_t* text);
+
+    /// The whole text, NUL-terminated, joined into one block. The buffer owns it; it is valid until the next change.
+    const wchar_t* GetText();
+    /// Number of characters appended since the last clearing.
+    unsigned long GetLength() const;
+    /// Drops the text and keeps the block when there is exactly one.
+    void Empty();
+    /// Drops the text and frees all blocks.
+    void Clear();
+
+    CStringBuffer(const CStringBuffer&) = delete;
+    CStringBuffer& operator=(const CStringBuffer&) = delete;
+
+private:
+    friend class CTextStream;
+
+    void AddBlock();
+    void AddBlock(unsigned long capacity);
+    void AppendOverBlocks(const wchar_t* text, unsigned long length);
+    unsigned long GetUsed(std::size_t block) const;
+
+    std::vector<std::unique_ptr<wchar_t[]>> m_blocks;
+    std::vector<unsigned long> m_blockSizes;
+    unsigned long m_blockSize;
+    unsigned long m_usedInCurrent;
+    unsigned long m_currentCapacity;
+    wchar_t* m_current;
+    unsigned long m_totalLength;
+};
+
+inline void CStringBuffer::Append(wchar_t c)
+{
+    if (m_usedInCurrent == m_currentCapacity) {
+        AddBlock();
+    }
+    m_current[m_usedInCurrent++] = c;
+    ++m_totalLength;
+}
+
+} // namespace ZrXmlLib16
+
+#endif

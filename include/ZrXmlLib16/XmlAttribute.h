@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZRXMLLIB16_XMLATTRIBUTE_H
+#define ZRXMLLIB16_XMLATTRIBUTE_H
+
+#include "ZrXmlLib16/Export.h"
+
+#include <cstddef>
+#include <memory>
+#include <string>
+
+namespace ZrXmlLib16 {
+
+class CXmlElement;
+class NodePool;
+struct XmlName;
+
+/// An attribute of an element of a CXmlDocument. Its element owns it.
+class ZRXML_API CXmlAttribute {
+public:
+    /// @param owner not owned; null for an attribute of its own, which is printed as if it belonged to no document.
+    /// Does not enter the attribute into the owner's list: see CXmlElement::AddAttribute.
+    CXmlAttribute(CXmlElement* owner, const std::wstring& localName, const std::wstring& value,
+        const std::wstring& namespaceUri);
+    virtual ~CXmlAttribute();
+    CXmlAttribute(const CXmlAttribute&) = delete;
+    CXmlAttribute& operator=(const CXmlAttribute&) = delete;
+
+    /// Empty for no namespace.
+    const std::wstring& GetNamespaceURI() const;
+    const std::wstring& GetLocalName() const;
+    const std::wstring& GetValue() const;
+    /// The owner's path, "/", the prefix and ":" when there is one, "@" and the local name: /order/AA:@code.
+    std::wstring GetXPath() const;
+    /// Whether the attribute belongs to the XML infrastructure (xmlns, type, schemaLocation, noNamespaceSchemaLocation in the instance
+    /// namespace or the namespace of declarations).
+    bool IsNamespaceAttribute() const;
+    /// Whether the attribute is "nil" in one of these two namespaces.
+    bool IsNilAttribute() const;
+
+    static void* operator new(std::size_t size);
+    static void operator delete(void* node);
+
+private:
+    friend class CXmlElement;
+
+    CXmlAttribute(CXmlElement* owner, const XmlName& name);
+    static void* operator new(std::size_t size, NodePool& pool);
+    static void operator delete(void* node, NodePool& pool);
+
+    CXmlElement* m_owner;
+    std::unique_ptr<const XmlName> m_ownName; // null when the document holds the name
+    const XmlName* m_name;
+    std::wstring m_value;
+};
+
+} // namespace ZrXmlLib16
+
+#endif

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZRXMLLIB16_XMLCOLLECTION_H
+#define ZRXMLLIB16_XMLCOLLECTION_H
+
+#include "ZrXmlLib16/Export.h"
+#include "ZrXmlLib16/SmartPtr.h"
+#include "ZrXmlLib16/XmlCollectionBase.h"
+#include "ZrXmlLib16Data/XmlElementType.h"
+
+namespace ZrXmlLib16 {
+
+/// A collection of generated objects, held in a list in collection order and counted by reference.
+///
+/// Every insertion announces BeforeAdd, AfterAdd and CollectionChanged with the item; every removal announces BeforeRemove,
+/// AfterRemove and CollectionChanged with the index. Arguments are checked before anything is announced. Neither element names nor
+/// the maximum count are checked on adding. Going through the items by ascending or descending index costs one step each.
+class ZRXML_API CXmlCollection : public CXmlCollectionBase {
+public:
+    /// One place of the list; owned by the collection and valid until its item is removed.
+    class ZRXML_API CNode {
+    public:
+        CXmlObjectBase* GetItem() const;
+        /// Null at the end.
+        CNode* GetNext() const;
+        /// Null at the beginning.
+        CNode* GetPrevious() const;
+
+    private:
+        friend class CXmlCollection;
+        explicit CNode(CXmlObjectBase* item);
+
+        CSmartPtr<CXmlObjectBase> m_item;
+        CNode* m_next;
+        CNode* m_previous;
+    };
+
+    CXmlCollection(const wchar_t* elementName, const wchar_t* namespaceUri, int minOccurs, int maxOccurs);
+    ~CXmlCollection() override;
+    /// Insertions return the new node and throw CZrInvalidParamException for a null item or an existing item that is not here.
+    CNode* AppendItem(CXmlObjectBase* item);
+    CNode* PrependItem(CXmlObjectBase* item);
+    /// @param index 0 to GetCount()
+    CNode* AddItemAt(int index, CXmlObjectBase* item);
+    CNode* AddAfterItem(CXmlObjectBase* existing, CXmlObjectBase* item);
+    CNode* AddBeforeItem(CXmlObjectBase* existing, CXmlObjectBase* item);
+    /// @throws CZrInvalidParamException unless 0 <= index < GetCount(), as does GetNodeAtIndex.
+    void Remove(int index);
+    /// @throws CZrInvalidParamException for a node that is not of this collection.
+    void RemoveNode(CNode* node);
+    CNode* GetNodeAtIndex(int index) const;
+    /// First node of the item, null when there is none.
+    CNode* GetNodeForItem(const CXmlObjectBase* item) const;
+    void Clear();
+    int GetCount() const override;
+
+protected:
+    void AttributesToXml_Int(CXmlWriter* writer, const CSerializationContext& context) const override;
+    void ToXml_Int(CXmlWriter* writer, bool isRoot, const wchar_t* namespaceUri, const CSerializationContext& context,
+        bool isOptional) const override;
+    /// Appends an item for each consecutive element of the collection's name; never clears, never stops at the maximum.
+    CXmlElement* FromXml_Int(
+        CXmlElement* element, CXmlElement* firstChild, const CSerializationContext& context, bool isOptional) override;
+    /// The new object that reads an element; null when there is none for it. Overridden by generated collections.
+    virtual CSmartPtr<CXmlObjectBase> CreateItem(CXmlElement* element);
+    /// How the items are represented; by default as elements of their own.
+    virtual ZrXmlLib16Data::XmlElementType GetItemElementType() const;
+
+    CXmlCollection(const CXmlCollection&) = delete;
+    CXmlCollection& operator=(const CXmlCollection&) = delete;
+
+private:
+    CNode* Insert(CXmlObjectBase* item, CNode* before);
+    void RemoveAt(CNode* node, int index);
+    CNode* RequireNode(const CXmlObjectBase* item) const;
+    CXmlElement* ReadElements(CXmlElement* cursor, const CSerializationContext& context);
+    CXmlElement* ReadInlineItems(CXmlElement* parent, CXmlElement* cursor, const CSerializationContext& context);
+    CSmartPtr<CXmlObjectBase> RequireItem(CXmlElement* element);
+
+    CNode* m_first;
+    CNode* m_last;
+    int m_count;
+    // The place of the last access by index; a null node when there is none.
+    mutable CNode* m_cachedNode;
+    mutable int m_cachedIndex;
+};
+
+} // namespace ZrXmlLib16
+
+#endif

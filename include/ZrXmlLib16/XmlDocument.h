@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZRXMLLIB16_XMLDOCUMENT_H
+#define ZRXMLLIB16_XMLDOCUMENT_H
+
+#include "ZrXmlLib16/Export.h"
+#include "ZrXmlLib16/SchemaType.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace ZrXmlLib16 {
+
+class CSerializationContext;
+class CXmlElement;
+class DocumentStorage;
+struct XmlName;
+
+/// A document read into a small tree: element names and namespaces, attributes and the text of each element.
+///
+/// Comments, processing instructions and the document type leave no trace; prefixes are kept in one map for the whole document, where a
+/// later declaration of a prefix replaces an earlier one. The document owns its elements; they live until the next load, Cleanup or the
+/// destructor. After a failed load the document keeps what was built so far. A document belongs to one thread at a time; two documents
+/// share nothing.
+class ZRXML_API CXmlDocument {
+public:
+    CXmlDocument();
+    /// @param context not owned; outlives the document.
+    explicit CXmlDocument(const CSerializationContext& context);
+    /// @param elementEnd called for every element when its end has been read; when it returns true the element is taken out of the
+    /// tree and destroyed. The root is kept in any case. Null is none. What the function throws leaves the load.
+    explicit CXmlDocument(bool (*elementEnd)(CXmlElement*));
+    CXmlDocument(bool (*elementEnd)(CXmlElement*), const CSerializationContext& context);
+    virtual ~CXmlDocument();
+    CXmlDocument(const CXmlDocument&) = delete;
+    CXmlDocument& operator=(const CXmlDocument&) = delete;
+
+    /// Destroys the tree, the input and the prefixes.
+    virtual void Cleanup();
+    /// Destroys the tree and the input, and reads the schema type from the context.
+    void Init();
+
+    /// Reads XML text, which is copied first. Null is empty.
+    /// @throws CZrException for empty text, and for text that is not well-formed: description and line.
+    void LoadXml(const char* text);
+    /// The same for wide text, of which the low 16 bits of every character are taken as UTF-16.
+    void LoadXml(const wchar_t* text);
+    /// Reads XML text, compressed (gzip, zlib) or not, which is copied first.
+    void LoadXmlStream(const unsigned char* bytes, unsigned long length);
+    /// Reads a file as LoadXmlStream does.
+    /// @throws CZrException also when the file cannot be opened, has no length or cannot be read; an empty file cannot be read.
+    void Load(const wchar_t* fileName);
+
+    /// The root, null when there is none.
+    CXmlElement* GetDocumentElement() const;
+
+    /// The operations that build the tree. Elements are opened inside the innermost open one and closed by EndElement.
+    /// @throws CZrInvalidStateException when no element is open, except AddDocElement, which replaces the tree.
+    CXmlElement* AddDocElement(const std::wstring& namespaceUri, const std::wstring& name);
+    CXmlElement* AddChildElement(const std::wstring& namespaceUri, const std::wstring& name);
+    void AddElementAttribute(CXmlElement* element, const std::wstring& localName, const std::wstring& value,
+        const std::wstring& namespaceUri);
+    /// Appends up to the length or the first NUL, carriage returns left out.
+    void AppendTextExcludingCR(CXmlElement* element, const wchar_t* text, unsigned long length);
+    void AppendTextExcludingCR(CXmlElement* element, const std::wstring& text);
+    void EndElement();
+    void AddNamespaceDeclaration(const std::wstring& prefix, const std::wstring& uri);
+
+    /// Empty when the prefix is unknown; the empty prefix stands for the default namespace.
+    std::wstring LookupNamespaceFromAlias(const std::wstring& prefix) const;
+    /// The first prefix, in the order of prefixes, that is bound to the URI; empty when there is none.
+    std::wstring LookupAliasFromNamespace(const std::wstring& uri) const;
+
+    /// The innermost open element, null when none is open.
+    CXmlElement* GetCurrentElement() const;
+    /// The bytes of the last load, decompressed; null when there are none.
+    const unsigned char* GetInputBuffer() const;
+    unsigned long GetInputSize() const;
+    SchemaType GetSchemaType() const;
+    const CSerializationContext& GetSerializationContext() const;
+
+private:
+    friend class CExpatReader;
+
+    struct StorageDeleter {
+        void operator()(DocumentStorage* storage) const noexcept;
+    };
+
+    void Parse();
+    void ParseText();
+    void AllocateInput(unsigned long size);
+    void Decompress();
+    void ReadFile(const wchar_t* fileName);
+    void DestroyTree() noexcept;
+    void DestroyInput() noexcept;
+    DocumentStorage& GetStorage();
+    CXmlElement* OpenDocElement(const XmlName& name);
+    CXmlElement* OpenChildElement(const XmlName& name);
+    std::unique_ptr<CXmlElement> NewElement(CXmlElement* parent, const XmlName& name);
+    CXmlElement& RequireOpenElement() const;
+    CXmlElement& RequireOpenElement(CXmlElement* element) const;
+
+    std::unique_ptr<CXmlElement> m_documentElement;
+    std::vector<CXmlElement*> m_elementStack;
+    std::map<std::wstring, std::wstring> m_prefixMap; // prefix -> URI
+    std::unique_ptr<unsigned char[]> m_inputBuffer;
+    unsigned long m_inputSize;
+    SchemaType m_schemaType;
+    bool (*m_elementEnd)(CXmlElement*);
+    const CSerializationContext* m_context;
+    std::unique_ptr<DocumentStorage, StorageDeleter> m_storage;
+};
+
+} // namespace ZrXmlLib16
+
+#endif

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZRXMLLIB16_XMLELEMENT_H
+#define ZRXMLLIB16_XMLELEMENT_H
+
+#include "ZrXmlLib16/Export.h"
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace ZrXmlLib16 {
+
+class CXmlAttribute;
+class CXmlDocument;
+class DocumentStorage;
+class NodePool;
+struct XmlName;
+
+/// An element of a CXmlDocument: name, attributes, children, and all character data directly inside it as one text.
+///
+/// An element owns its attributes and children. Trees may be of any depth: nothing here recurses. An element that was taken out of the
+/// tree with RemoveLastChildElement belongs to the caller, who deletes it; it may outlive its document only to be deleted or read, not
+/// for prefixes and paths. A document and its elements belong to one thread at a time.
+class ZRXML_API CXmlElement {
+public:
+    /// @param document not owned, may be null: such an element knows no prefixes.
+    /// @param parent not owned, null for a root. The parent's list of children does not change: see CreateNewChildElement.
+    CXmlElement(CXmlDocument* document, CXmlElement* parent);
+    virtual ~CXmlElement();
+    CXmlElement(const CXmlElement&) = delete;
+    CXmlElement& operator=(const CXmlElement&) = delete;
+
+    /// Appends a child without a name and returns it; this element owns it.
+    CXmlElement* CreateNewChildElement();
+    /// Takes the last child out of the tree and hands it to the caller; null when there is none.
+    CXmlElement* RemoveLastChildElement();
+    void AddAttribute(const std::wstring& localName, const std::wstring& value, const std::wstring& namespaceUri);
+    /// Appends the text as it is. Null is empty.
+    void AppendText(const wchar_t* text, unsigned long length);
+    void AppendText(const std::wstring& text);
+    void SetElementName(const std::wstring& name);
+    void SetNamespace(const std::wstring& namespaceUri);
+    /// First child, null when there is none.
+    CXmlElement* GetFirstElement() const;
+    /// Next child of the same parent, null for the last one.
+    CXmlElement* GetNextSiblingElement() const;
+    /// Empty for no namespace.
+    const std::wstring& GetNamespaceURI() const;
+    const std::wstring& GetLocalName() const;
+    const std::wstring& GetText() const;
+    /// In document order.
+    const std::vector<CXmlAttribute*>& GetAttributes() const;
+    /// Value of the first attribute of that name; one shared empty text when there is none.
+    const std::wstring& GetAttribute(const std::wstring& localName, const std::wstring& namespaceUri) const;
+    /// Prefix, ":" and local name, or the local name alone when the document knows no prefix for the namespace.
+    std::wstring GetQName() const;
+    /// The qualified name, followed by the 1-based position in brackets when siblings have the same one.
+    std::wstring GetNameWithPredicate() const;
+    /// The way from the root, such as /order/item[2]/price.
+    std::wstring GetXPath() const;
+
+    CXmlElement* GetParent() const;
+    CXmlDocument* GetDocument() const;
+
+    static void* operator new(std::size_t size);
+    static void operator delete(void* node);
+
+private:
+    friend class CXmlDocument;
+    friend class CExpatReader;
+
+    CXmlElement(CXmlDocument* document, CXmlElement* parent, DocumentStorage* storage);
+    static void* operator new(std::size_t size, NodePool& pool);
+    static void operator delete(void* node, NodePool& pool);
+
+    CXmlElement* AppendChild(std::unique_ptr<CXmlElement> child);
+    void AppendAttribute(std::unique_ptr<CXmlAttribute> attribute);
+    void AddParsedAttribute(const XmlName& name, const unsigned short* value);
+    void SetName(const std::wstring& namespaceUri, const std::wstring& localName);
+    bool HasSameQName(const CXmlElement& sibling) const;
+
+    CXmlDocument* m_document;
+    CXmlElement* m_parent;
+    CXmlElement* m_nextSibling;
+    CXmlElement* m_firstChild;
+    CXmlElement* m_lastChild;
+    std::vector<CXmlAttribute*> m_attributes;
+    std::wstring m_text;
+    const XmlName* m_name;
+    std::unique_ptr<const XmlName> m_ownName; // null when the document holds the name
+    CXmlElement* m_previousSibling;
+    DocumentStorage* m_storage; // of the document that created the element; null for an element built by hand
+};
+
+} // namespace ZrXmlLib16
+
+#endif

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZRXMLLIB16DATA_ELEMENTINFOSEQPRIMMND_H
+#define ZRXMLLIB16DATA_ELEMENTINFOSEQPRIMMND_H
+
+#include "ZrXmlLib16/Export.h"
+#include "ZrXmlLib16Data/ElementInfo.h"
+
+namespace ZrXmlLib16Data {
+
+/// Record of a mandatory element in an xs:sequence whose content is a primitive value.
+class ZRXML_API CElementInfoSeqPrimMnd : public CElementInfo {
+public:
+    CElementInfoSeqPrimMnd(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool nillable, ItemType itemType,
+        const wchar_t* numberFormat, CWhitespaceUtils::WhitespaceRule rule, const CPrimitiveRestrictions& restrictions,
+        const wchar_t* defaultValue);
+    ~CElementInfoSeqPrimMnd() override;
+    bool ElementToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
+        ZrXmlLib16::CXmlWriter* writer) const override;
+    bool ElementFromXml(const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlGeneratedClass* object,
+        ZrXmlLib16::CXmlElement* parent, ZrXmlLib16::CXmlElement** current, const wchar_t* defaultNamespace,
+        XmlElementType elementType) override;
+};
+
+} // namespace ZrXmlLib16Data
+
+#endif
