@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "ZrXmlLib16/ClassfactoryBase.h"
+
+#include "ZrXmlLib16/XmlDocument.h"
+#include "ZrXmlLib16/XmlElement.h"
+
+namespace ZrXmlLib16 {
+
+namespace {
+
+const std::wstring& TypeAttribute(const CXmlElement* element)
+{
+    return element->GetAttribute(L"type", L"http://www.w3.org/2001/XMLSchema-instance");
+}
+
+} // namespace
+
+CClassfactoryBase::CClassfactoryBase() = default;
+
+CClassfactoryBase::~CClassfactoryBase() = default;
+
+std::wstring CClassfactoryBase::GetElementType(CXmlElement* element)
+{
+    const std::wstring& type = TypeAttribute(element);
+    const std::wstring::size_type colon = type.find(L':');
+    return colon == std::wstring::npos ? type : type.substr(colon + 1);
+}
+
+std::wstring CClassfactoryBase::GetElementTypeNamespaceUri(CXmlElement* element)
+{
+    const std::wstring& type = TypeAttribute(element);
+    const std::wstring::size_type colon = type.find(L':');
+    if (colon == std::wstring::npos) {
+        return element->GetNamespaceURI();
+    }
+    // kept: required behaviour. One map for the whole document, in which the last declaration of a prefix wins.
+    const CXmlDocument* document = element->GetDocument();
+    return document ? document->LookupNamespaceFromAlias(type.substr(0, colon)) : std::wstring();
+}
+
+} // namespace ZrXmlLib16

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "core/DepthGuard.h"
+
+#include "ZrXmlLib16/SerializationContext.h"
+
+namespace ZrXmlLib16 {
+
+namespace {
+
+thread_local int t_depth = 0;
+
+} // namespace
+
+CDepthGuard::CDepthGuard()
+{
+    ++t_depth;
+}
+
+CDepthGuard::~CDepthGuard()
+{
+    --t_depth;
+}
+
+bool CDepthGuard::IsTooDeep(const CSerializationContext& context) const
+{
+    return t_depth > context.GetMaxDepth();
+}
+
+} // namespace ZrXmlLib16

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+// How a collection of generated objects is written and read.
+#include "ZrXmlLib16/Formatting.h"
+#include "ZrXmlLib16/XmlCollection.h"
+#include "ZrXmlLib16/XmlElement.h"
+#include "ZrXmlLib16/XmlGeneratedClass.h"
+#include "ZrXmlLib16/ZrInvalidStateException.h"
+#include "ZrXmlLib16/ZrValidationException.h"
+#include "core/CoreMessages.h"
+
+namespace ZrXmlLib16 {
+
+using ZrXmlLib16Data::XmlElementType_Element;
+
+void CXmlCollection::AttributesToXml_Int(CXmlWriter* writer, const CSerializationContext& context) const
+{
+    for (const CNode* node = m_first; node; node = node->m_next) {
+        CXmlObjectBase::AttributesToXml_Int(node->m_item->GetBase(), writer, context);
+    }
+}
+
+void CXmlCollection::ToXml_Int(
+    CXmlWriter* writer, bool, const wchar_t* namespaceUri, const CSerializationContext& context, bool) const
+{
+    for (const CNode* node = m_first; node; node = node->m_next) {
+        CXmlObjectBase::ToXml_Int(node->m_item, writer, false, namespaceUri, context, false);
+    }
+}
+
+CXmlElement* CXmlCollection::FromXml_Int(
+    CXmlElement* element, CXmlElement* firstChild, const CSerializationContext& context, bool)
+{
+    return GetItemElementType() == XmlElementType_Element ? ReadElements(firstChild, context)
+                                                          : ReadInlineItems(element, firstChild, context);
+}
+
+CXmlElement* CXmlCollection::ReadElements(CXmlElement* cursor, const CSerializationContext& context)
+{
+    while (cursor && DoesElementNameMatch(context, cursor, ElementName(), Namespace())) {
+        const CSmartPtr<CXmlObjectBase> item = RequireItem(cursor);
+        CXmlObjectBase::FromXml_Int(item, cursor, cursor->GetFirstElement(), context);
+        AppendItem(item);
+        cursor = cursor->GetNextSiblingElement();
+    }
+    return cursor;
+}
+
+/// Items without an element of their own are read one after another until one finds nothing more.
+CXmlElement* CXmlCollection::ReadInlineItems(
+    CXmlElement* parent, CXmlElement* cursor, const CSerializationContext& context)
+{
+    for (;;) {
+        const CSmartPtr<CXmlObjectBase> item = RequireItem(parent);
+        CXmlElement* next = CXmlObjectBase::FromXml_Int(item, parent, cursor, context);
+        const CXmlGeneratedClass* generated = dynamic_cast<const CXmlGeneratedClass*>(item.GetPtr());
+        if (next == cursor || (generated && !generated->m_satisfied)) {
+            return cursor;
+        }
+        AppendItem(item);
+        cursor = next;
+    }
+}
+
+CSmartPtr<CXmlObjectBase> CXmlCollection::RequireItem(CXmlElement* element)
+{
+    CSmartPtr<CXmlObjectBase> item = CreateItem(element);
+    if (!item) {
+        throw CZrValidationException(
+            FormatString(Message::NO_SUBSTITUTION, ElementName().c_str()), element->GetXPath());
+    }
+    return item;
+}
+
+CSmartPtr<CXmlObjectBase> CXmlCollection::CreateItem(CXmlElement*)
+{
+    throw CZrInvalidStateException(Message::NO_ITEM_FACTORY);
+}
+
+ZrXmlLib16Data::XmlElementType CXmlCollection::GetItemElementType() const
+{
+    return XmlElementType_Element;
+}
+
+} // namespace ZrXmlLib16

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+// The public entry points of CXmlObjectBase: each checks the version, builds a stream and a writer or a document, and
+// starts a walk.
+#include "ZrXmlLib16/FileBinaryStream.h"
+#include "ZrXmlLib16/FileTextStream.h"
+#include "ZrXmlLib16/TextStream.h"
+#include "ZrXmlLib16/XmlDocument.h"
+#include "ZrXmlLib16/XmlElement.h"
+#include "ZrXmlLib16/XmlObjectBase.h"
+#include "ZrXmlLib16/XmlTextWriter.h"
+#include "ZrXmlLib16/ZrException.h"
+#include "ZrXmlLib16/ZrZip.h"
+#include "core/CoreMessages.h"
+#include "core/VersionCheck.h"
+
+namespace ZrXmlLib16 {
+
+namespace {
+
+bool ASYNC_TOXMLFILE = false;
+
+// kept: required behaviour. The file forms refuse the zlib wrapper that the stream forms accept.
+void RefuseZLib(CompressionType compression)
+{
+    if (compression == Compression_ZLib) {
+        throw CZrException(Message::ZLIB_ONLY_FOR_STREAMS);
+    }
+}
+
+// A byte-order mark in front of compressed bytes would hide their own header from the reader.
+XmlEncoding MarkedEncoding(XmlEncoding encoding, CompressionType compression)
+{
+    return compression == Compression_None ? encoding : Encoding_UTF8;
+}
+
+} // namespace
+
+void AsyncToXmlFile(bool on)
+{
+    ASYNC_TOXMLFILE = on;
+}
+
+void CXmlObjectBase::WriteDocument(
+    CTextStream& stream, bool includeHeader, bool formatted, EOLType eol, const CSerializationContext& context) const
+{
+    CXmlTextWriter writer(stream);
+    writer.Open();
+    writer.SetFormat(formatted);
+    writer.SetIndentChars(context.GetIndentChars().c_str());
+    writer.SetEOLType(eol);
+    writer.SetWriteDefaultElementValues(context.GetWriteDefaultElementValues());
+    if (includeHeader) {
+        writer.WriteStartDocument();
+    }
+    ToXml_Int(&writer, true, GetNamespace().c_str(), context, false);
+    writer.Close();
+}
+
+std::wstring CXmlObjectBase::ToXml(
+    bool includeHeader, bool formatted, EOLType eol, const CSerializationContext& context) const
+{
+    CheckVersion();
+    CTextStream stream;
+    WriteDocument(stream, includeHeader, formatted, eol, context);
+    return std::wstring(stream.GetText(), stream.GetLength());
+}
+
+CBinaryData CXmlObjectBase::ToXmlStream(bool includeHeader, bool formatted, XmlEncoding encoding, EOLType eol,
+    const CSerializationContext& context, CompressionType compression) const
+{
+    CheckVersion();
+    CTextStream stream(encoding);
+    WriteDocument(stream, includeHeader, formatted, eol, context);
+    CBinaryData bytes = stream.GetEncodedStream();
+    if (compression != Compression_None) {
+        CZrZip::CompressData(bytes, compression);
+    }
+    return bytes;
+}
+
+void CXmlObjectBase::ToXmlFile(const wchar_t* fileName, bool includeHeader, bool formatted, XmlEncoding encoding,
+    EOLType eol, const CSerializationContext& context, CompressionType compression) const
+{
+    CheckVersion();
+    RefuseZLib(compression);
+    if (ASYNC_TOXMLFILE && compression == Compression_None) {
+        CFileTextStream stream(fileName, encoding);
+        WriteDocument(stream, includeHeader, formatted, eol, context);
+        return;
+    }
+    CBinaryData bytes = ToXmlStream(includeHeader, formatted, encoding, eol, context, compression);
+    CFileBinaryStream(fileName, MarkedEncoding(encoding, compression), bytes).ToFile();
+}
+
+void CXmlObjectBase::ReadElement(const CXmlElement* element, const CSerializationContext& context)
+{
+    if (!element) {
+        throw CZrException(Message::NO_ROOT_ELEMENT);
+    }
+    // The walk hands out pointers into the tree that generated code may keep moving along; it never writes through
+    // them.
+    FromXml_Int(const_cast<CXmlElement*>(element), element->GetFirstElement(), context, false);
+}
+
+void CXmlObjectBase::FromXmlFile(const wchar_t* fileName, const CSerializationContext& context)
+{
+    CheckVersion();
+    CXmlDocument document(context);
+    document.Load(fileName);
+    ReadElement(document.GetDocumentElement(), context);
+}
+
+void CXmlObjectBase::FromXml(const char* text, const CSerializationContext& context)
+{
+    CheckVersion();
+    CXmlDocument document(context);
+    document.LoadXml(text);
+    ReadElement(document.GetDocumentElement(), context);
+}
+
+void CXmlObjectBase::FromXml(const wchar_t* text, const CSerializationContext& context)
+{
+    CheckVersion();
+    CXmlDocument document(context);
+    document.LoadXml(text);
+    ReadElement(document.GetDocumentElement(), context);
+}
+
+void CXmlObjectBase::FromXmlStream(
+    const unsigned char* bytes, unsigned long length, const CSerializationContext& context)
+{
+    CheckVersion();
+    CXmlDocument document(context);
+    document.LoadXmlStream(bytes, length);
+    ReadElement(document.GetDocumentElement(), context);
+}
+
+void CXmlObjectBase::FromXmlStream(const CBinaryData& bytes, const CSerializationContext& context)
+{
+    FromXmlStream(bytes.GetData(), bytes.GetLength(), context);
+}
+
+void CXmlObjectBase::FromXmlElement(const CXmlElement* element, const CSerializationContext& context)
+{
+    CheckVersion();
+    ReadElement(element, context);
+}
+
+} // namespace ZrXmlLib16
