@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#ifndef METADATA_RECORDACCESS_H
+#define METADATA_RECORDACCESS_H
+
+#include "ZrXmlLib16/XmlGeneratedClass.h"
+#include "ZrXmlLib16/XmlWriter.h"
+#include "ZrXmlLib16Data/ElementInfo.h"
+
+namespace ZrXmlLib16Data {
+
+/// The door through which the kinds and policies of this folder reach the protected operations of records, objects and
+/// writers.
+class CRecordAccess {
+public:
+    static bool WritePrim(const CElementInfo& record, const ZrXmlLib16::CSerializationContext& context,
+        const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlWriter* writer)
+    {
+        return record.ElementToXmlPrim(context, object, writer);
+    }
+    static bool WriteEnum(const CElementInfo& record, const ZrXmlLib16::CSerializationContext& context,
+        const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlWriter* writer)
+    {
+        return record.ElementToXmlEnum(context, object, writer, record.m_enumToString);
+    }
+    static bool WriteClass(const CElementInfo& record, const ZrXmlLib16::CSerializationContext& context,
+        const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlWriter* writer)
+    {
+        return record.ElementToXmlCls(context, object, writer, false);
+    }
+    static bool WriteCollection(const CElementInfo& record, const ZrXmlLib16::CSerializationContext& context,
+        const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlWriter* writer)
+    {
+        return record.ElementToXmlCol(context, object, writer);
+    }
+    static void WriteAttributes(const CElementInfo& record, const ZrXmlLib16::CXmlObjectBase* child,
+        ZrXmlLib16::CXmlWriter* writer, const ZrXmlLib16::CSerializationContext& context)
+    {
+        record.AttributesToXml_Int(child, writer, context);
+    }
+
+    static void ReadPrim(CElementInfo& record, const ZrXmlLib16::CSerializationContext& context,
+        ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlElement** current)
+    {
+        record.ElementFromXmlPrim(context, object, current);
+    }
+    static void ReadEnum(CElementInfo& record, const ZrXmlLib16::CSerializationContext& context,
+        ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlElement** current)
+    {
+        record.ElementFromXmlEnum(context, object, current);
+    }
+    static ZrXmlLib16::CXmlElement* ReadChild(CElementInfo& record, ZrXmlLib16::CXmlObjectBase* child,
+        ZrXmlLib16::CXmlElement* element, ZrXmlLib16::CXmlElement* firstChild,
+        const ZrXmlLib16::CSerializationContext& context)
+    {
+        return record.FromXml_Int(child, element, firstChild, context, false);
+    }
+
+    static void GetProperty(
+        const CElementInfo& record, ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::ZrVariant& value)
+    {
+        record.InvokePropertyGet(object, value);
+    }
+    static void SetProperty(const CElementInfo& record, ZrXmlLib16::CXmlGeneratedClass* object,
+        ZrXmlLib16::ZrVariant& value, const ZrXmlLib16::CXmlElement& source)
+    {
+        record.InvokePropertySet(object, value, source);
+    }
+
+    /// The results of an object's last read; objects that are no generated classes always count as satisfied and
+    /// touched.
+    static bool IsSatisfied(const ZrXmlLib16::CXmlObjectBase& object)
+    {
+        const auto* generated = dynamic_cast<const ZrXmlLib16::CXmlGeneratedClass*>(&object);
+        return !generated || generated->m_satisfied;
+    }
+    static bool IsTouched(const ZrXmlLib16::CXmlObjectBase& object)
+    {
+        const auto* generated = dynamic_cast<const ZrXmlLib16::CXmlGeneratedClass*>(&object);
+        return !generated || generated->m_touched;
+    }
+    static void Touch(ZrXmlLib16::CXmlGeneratedClass& object) { object.m_touched = true; }
+
+    /// A text that records may use between two calls of the writer; keeps its capacity from one value to the next.
+    static std::wstring& Scratch(ZrXmlLib16::CXmlWriter& writer) { return writer.m_scratch; }
+};
+
+} // namespace ZrXmlLib16Data
+
+#endif
