@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "streams/Utf8Decoding.h"
+
+#include "streams/UnicodeText.h"
+
+#include <cstring>
+
+namespace ZrXmlLib16 {
+
+namespace {
+
+constexpr unsigned long ASCII_RUN = 8;
+
+bool IsAsciiRun(const unsigned char* data)
+{
+    std::uint64_t octets;
+    static_assert(sizeof(octets) == ASCII_RUN, "a run is read as one number");
+    std::memcpy(&octets, data, sizeof(octets));
+    return (octets & 0x8080808080808080U) == 0;
+}
+
+bool IsTail(unsigned char octet)
+{
+    return (octet & 0xC0) == 0x80;
+}
+
+std::uint32_t TailBits(unsigned char octet)
+{
+    return octet & 0x3FU;
+}
+
+struct DecodedSequence {
+    std::uint32_t codePoint;
+    unsigned long length; // 0: the octets do not begin a well-formed sequence
+};
+
+constexpr DecodedSequence ILL_FORMED = {0, 0};
+
+DecodedSequence DecodeThree(const unsigned char* data, unsigned long available)
+{
+    if (available < 3 || !IsTail(data[1]) || !IsTail(data[2])) {
+        return ILL_FORMED;
+    }
+    const std::uint32_t value = (data[0] & 0x0FU) << 12 | TailBits(data[1]) << 6 | TailBits(data[2]);
+    const bool isValid = value >= 0x800 && !IsHighSurrogate(value) && !IsLowSurrogate(value);
+    return isValid ? DecodedSequence{value, 3} : ILL_FORMED;
+}
+
+DecodedSequence DecodeFour(const unsigned char* data, unsigned long available)
+{
+    if (available < 4 || !IsTail(data[1]) || !IsTail(data[2]) || !IsTail(data[3])) {
+        return ILL_FORMED;
+    }
+    const std::uint32_t value =
+        (data[0] & 0x07U) << 18 | TailBits(data[1]) << 12 | TailBits(data[2]) << 6 | TailBits(data[3]);
+    return value >= 0x10000 && value <= LAST_CODE_POINT ? DecodedSequence{value, 4} : ILL_FORMED;
+}
+
+/// Decodes the sequence at the beginning of the octets, of which there is at least one.
+DecodedSequence DecodeSequence(const unsigned char* data, unsigned long available)
+{
+    const unsigned char lead = data[0];
+    if (lead < 0x80) {
+        return {lead, 1};
+    }
+    if (lead >= 0xC2 && lead <= 0xDF) {
+        return available >= 2 && IsTail(data[1]) ? DecodedSequence{(lead & 0x1FU) << 6 | TailBits(data[1]), 2}
+                                                 : ILL_FORMED;
+    }
+    if (lead >= 0xE0 && lead <= 0xEF) {
+        return DecodeThree(data, available);
+    }
+    return lead >= 0xF0 && lead <= 0xF4 ? DecodeFour(data, available) : ILL_FORMED;
+}
+
+} // namespace
+
+std::wstring DecodeUtf8(const unsigned char* data, unsigned long length)
+{
+    // No sequence has more units than octets.
+    std::wstring text(length, L'\0');
+    wchar_t* out = &text[0];
+    unsigned long at = 0;
+    bool inIllFormedRun = false;
+    while (at < length) {
+        while (length - at >= ASCII_RUN && IsAsciiRun(data + at)) {
+            for (unsigned long i = 0; i < ASCII_RUN; ++i) {
+                *out++ = static_cast<wchar_t>(data[at++]);
+            }
+            inIllFormedRun = false;
+        }
+        if (at == length) {
+            break;
+        }
+        const DecodedSequence sequence = DecodeSequence(data + at, length - at);
+        if (sequence.length == 0) {
+            if (!inIllFormedRun) {
+                *out++ = static_cast<wchar_t>(REPLACEMENT_CHARACTER);
+            }
+            inIllFormedRun = true;
+            ++at;
+            continue;
+        }
+        inIllFormedRun = false;
+        at += sequence.length;
+        if (sequence.codePoint < 0x10000) {
+            *out++ = static_cast<wchar_t>(sequence.codePoint);
+        } else {
+            *out++ = HighSurrogate(sequence.codePoint);
+            *out++ = LowSurrogate(sequence.codePoint);
+        }
+    }
+    text.resize(static_cast<unsigned long>(out - text.data()));
+    return text;
+}
+
+} // namespace ZrXmlLib16

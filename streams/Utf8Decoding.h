@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#ifndef STREAMS_UTF8DECODING_H
+#define STREAMS_UTF8DECODING_H
+
+#include <string>
+
+namespace ZrXmlLib16 {
+
+/// Decodes UTF-8 into UTF-16 units; each maximal run of octets outside well-formed sequences becomes one U+FFFD.
+std::wstring DecodeUtf8(const unsigned char* data, unsigned long length);
+
+} // namespace ZrXmlLib16
+
+#endif
