@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+// The only source that includes expat: without XML_UNICODE its header declares the functions of the 8-bit build.
+#define XML_UNICODE
+#include "xml/ExpatReader.h"
+
+#include "ZrXmlLib16/Formatting.h"
+#include "ZrXmlLib16/SerializationContext.h"
+#include "ZrXmlLib16/XmlDocument.h"
+#include "ZrXmlLib16/XmlElement.h"
+#include "ZrXmlLib16/ZrException.h"
+#include "xml/DocumentStorage.h"
+#include "xml/XmlMessages.h"
+
+#include <expat.h>
+
+#include <cstring>
+#include <new>
+#include <type_traits>
+
+namespace ZrXmlLib16 {
+
+namespace {
+
+static_assert(sizeof(XML_Char) == 2 && std::is_same_v<XML_Char, Utf16Unit>);
+
+constexpr XML_Char NAMESPACE_SEPARATOR = L'|';
+constexpr unsigned long LARGEST_SLICE = 1ul << 30;
+
+std::wstring WidenOptional(const Utf16Unit* units)
+{
+    std::wstring text;
+    if (units) {
+        AssignUtf16(text, units, Utf16Length(units));
+    }
+    return text;
+}
+
+// The descriptions are narrow ASCII text in this build of expat too.
+std::wstring DescribeError(XML_Error error)
+{
+    const XML_LChar* const text = XML_ErrorString(error);
+    return text ? std::wstring(text, text + std::strlen(text)) : std::wstring();
+}
+
+} // namespace
+
+void CExpatReader::ParserDeleter::operator()(XML_ParserStruct* parser) const noexcept
+{
+    XML_ParserFree(parser);
+}
+
+CExpatReader::CExpatReader(CXmlDocument& document)
+    : m_document(document)
+{
+}
+
+CExpatReader::~CExpatReader() = default;
+
+void CExpatReader::CreateParser()
+{
+    // kept: required behaviour. Without namespace processing names keep prefix and colon, and declarations are attributes.
+    const bool ignoresNamespaces = m_document.GetSchemaType() == SchemaType_DTD;
+    m_parser.reset(ignoresNamespaces ? XML_ParserCreate(nullptr) : XML_ParserCreateNS(nullptr, NAMESPACE_SEPARATOR));
+    if (!m_parser) {
+        throw std::bad_alloc();
+    }
+    XML_SetUserData(m_parser.get(), this);
+    XML_SetElementHandler(m_parser.get(), FnStartElement, FnEndElement);
+    XML_SetNamespaceDeclHandler(m_parser.get(), FnStartNamespace, FnEndNamespace);
+    XML_SetCharacterDataHandler(m_parser.get(), FnText);
+    if (!m_document.GetSerializationContext().GetStripCDATA()) {
+        XML_SetCdataSectionHandler(m_parser.get(), FnStartCDATA, FnEndCDATA);
+    }
+}
+
+void CExpatReader::Parse(bool isFinal)
+{
+    const char* input = reinterpret_cast<const char*>(m_document.GetInputBuffer());
+    unsigned long rest = m_document.GetInputSize();
+    bool isLast = false;
+    while (!isLast) {
+        const unsigned long slice = std::min(rest, LARGEST_SLICE);
+        rest -= slice;
+        isLast = rest == 0;
+        if (XML_Parse(m_parser.get(), input, static_cast<int>(slice), isLast && isFinal) != XML_STATUS_OK) {
+            ThrowFailure();
+        }
+        input += slice;
+    }
+    if (isFinal) {
+        Cleanup();
+    }
+}
+
+void CExpatReader::Cleanup()
+{
+    m_parser.reset();
+}
+
+void CExpatReader::ThrowFailure()
+{
+    const std::wstring description = DescribeError(XML_GetErrorCode(m_parser.get()));
+    const int line = static_cast<int>(XML_GetCurrentLineNumber(m_parser.get()));
+    Cleanup();
+    if (m_handlerFailure) {
+        std::rethrow_exception(m_handlerFailure);
+    }
+    throw CZrException(FormatString(Message::PARSE_FAILED, description.c_str(), line));
+}
+
+// The parser may still deliver events of the current tag after it was stopped.
+template <class Action> void CExpatReader::Guard(void* reader, Action action) noexcept
+{
+    CExpatReader& self = *static_cast<CExpatReader*>(reader);
+    if (self.m_handlerFailure) {
+        return;
+    }
+    try {
+        action(self);
+    } catch (...) {
+        self.m_handlerFailure = std::current_exception();
+        XML_StopParser(self.m_parser.get(), XML_FALSE);
+    }
+}
+
+void CExpatReader::FnStartElement(void* reader, const Utf16Unit* name, const Utf16Unit** attributes) noexcept
+{
+    Guard(reader, [=](CExpatReader& self) { self.StartElement(name, attributes); });
+}
+
+void CExpatReader::StartElement(const Utf16Unit* name, const Utf16Unit** attributes)
+{
+    NameTable& names = m_document.GetStorage().GetNames();
+    const XmlName& elementName = names.Intern(name);
+    CXmlElement* const element = m_document.GetDocumentElement() ? m_document.OpenChildElement(elementName)
+                                                                 : m_document.OpenDocElement(elementName);
+    std::size_t count = 0;
+    while (attributes[2 * count]) {
+        ++count;
+    }
+    element->m_attributes.reserve(count);
+    for (; *attributes; attributes += 2) {
+        element->AddParsedAttribute(names.Intern(attributes[0]), attributes[1]);
+    }
+}
+
+void CExpatReader::FnEndElement(void* reader, const Utf16Unit*) noexcept
+{
+    Guard(reader, [](CExpatReader& self) { self.m_document.EndElement(); });
+}
+
+void CExpatReader::FnText(void* reader, const Utf16Unit* text, int length) noexcept
+{
+    Guard(reader, [=](CExpatReader& self) {
+        AppendUtf16ExcludingCR(self.m_document.RequireOpenElement().m_text, text, static_cast<std::size_t>(length));
+    });
+}
+
+void CExpatReader::FnStartNamespace(void* reader, const Utf16Unit* prefix, const Utf16Unit* uri) noexcept
+{
+    Guard(reader, [=](CExpatReader& self) {
+        self.m_document.AddNamespaceDeclaration(WidenOptional(prefix), WidenOptional(uri));
+    });
+}
+
+void CExpatReader::FnEndNamespace(void*, const Utf16Unit*) noexcept
+{
+    // The document keeps every prefix: types are resolved after the parse.
+}
+
+// kept: required behaviour. A section keeps its delimiters in the text unless they are stripped.
+void CExpatReader::FnStartCDATA(void* reader) noexcept
+{
+    Guard(reader, [](CExpatReader& self) { self.m_document.RequireOpenElement().AppendText(L"<![CDATA[", 9); });
+}
+
+void CExpatReader::FnEndCDATA(void* reader) noexcept
+{
+    Guard(reader, [](CExpatReader& self) { self.m_document.RequireOpenElement().AppendText(L"]]>", 3); });
+}
+
+} // namespace ZrXmlLib16

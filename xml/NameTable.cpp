@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "xml/NameTable.h"
+
+#include "xml/XmlNamespaces.h"
+
+#include <cstring>
+#include <utility>
+
+namespace ZrXmlLib16 {
+
+namespace {
+
+constexpr std::size_t FIRST_SLOT_COUNT = 32;
+constexpr std::uint64_t HASH_MULTIPLIER = 0x9E3779B97F4A7C15u;
+
+bool IsInfrastructureNamespace(const std::wstring& namespaceUri)
+{
+    return namespaceUri == SCHEMA_INSTANCE_NAMESPACE_URI || namespaceUri == XMLNS_NAMESPACE_URI;
+}
+
+bool IsInfrastructureName(const std::wstring& localName)
+{
+    return localName == L"xmlns" || localName == L"type" || localName == L"schemaLocation"
+        || localName == L"noNamespaceSchemaLocation";
+}
+
+std::uint64_t Mix(std::uint64_t hash, std::uint64_t value) noexcept
+{
+    hash = (hash ^ value) * HASH_MULTIPLIER;
+    return hash ^ (hash >> 32);
+}
+
+std::wstring Widen(const Utf16Unit* units, std::size_t length)
+{
+    std::wstring text;
+    AssignUtf16(text, units, length);
+    return text;
+}
+
+XmlName SplitName(const Utf16Unit* qualifiedName, std::size_t length)
+{
+    const Utf16Unit* const end = qualifiedName + length;
+    const Utf16Unit* const separator = std::find(qualifiedName, end, Utf16Unit{L'|'});
+    if (separator == end) {
+        return XmlName(std::wstring(), Widen(qualifiedName, length));
+    }
+    return XmlName(Widen(qualifiedName, static_cast<std::size_t>(separator - qualifiedName)),
+        Widen(separator + 1, static_cast<std::size_t>(end - separator - 1)));
+}
+
+} // namespace
+
+// kept: required behaviour. The namespace of declarations counts like the instance namespace, for "nil" too.
+XmlName::XmlName(std::wstring namespaceOfName, std::wstring localPart)
+    : namespaceUri(std::move(namespaceOfName))
+    , localName(std::move(localPart))
+    , isNamespaceAttribute(IsInfrastructureNamespace(namespaceUri) && IsInfrastructureName(localName))
+    , isNilAttribute(IsInfrastructureNamespace(namespaceUri) && localName == L"nil")
+{
+}
+
+const XmlName& EmptyXmlName()
+{
+    static const XmlName name{std::wstring(), std::wstring()};
+    return name;
+}
+
+NameTable::Entry::Entry(const Key& key, XmlName entryName)
+    : keyBytes(key.bytes, key.size)
+    , form(key.form)
+    , name(std::move(entryName))
+{
+}
+
+NameTable::NameTable() = default;
+
+const XmlName& NameTable::Intern(const Utf16Unit* qualifiedName)
+{
+    const std::size_t length = Utf16Length(qualifiedName);
+    const Key key = MakeKey(qualifiedName, length * sizeof(Utf16Unit), KeyForm::Parser);
+    const XmlName* found = Find(key);
+    return found ? *found : Insert(key, SplitName(qualifiedName, length));
+}
+
+const XmlName& NameTable::Intern(const std::wstring& namespaceUri, const std::wstring& localName)
+{
+    m_wideKey.assign(1, static_cast<wchar_t>(namespaceUri.size()));
+    m_wideKey.append(namespaceUri).append(localName);
+    const Key key = MakeKey(m_wideKey.data(), m_wideKey.size() * sizeof(wchar_t), KeyForm::Wide);
+    const XmlName* found = Find(key);
+    return found ? *found : Insert(key, XmlName(namespaceUri, localName));
+}
+
+NameTable::Key NameTable::MakeKey(const void* bytes, std::size_t size, KeyForm form) const noexcept
+{
+    // The address makes the order of the slots unpredictable for whoever wrote the document.
+    std::uint64_t hash = Mix(reinterpret_cast<std::uintptr_t>(this), size);
+    const char* const text = static_cast<const char*>(bytes);
+    std::uint64_t part = 0;
+    std::size_t position = 0;
+    for (; position + sizeof(part) <= size; position += sizeof(part)) {
+        std::memcpy(&part, text + position, sizeof(part));
+        hash = Mix(hash, part);
+    }
+    if (position != size) {
+        part = 0;
+        std::memcpy(&part, text + position, size - position);
+        hash = Mix(hash, part);
+    }
+    return Key{text, size, form, hash};
+}
+
+const XmlName* NameTable::Find(const Key& key) const noexcept
+{
+    if (m_slots.empty()) {
+        return nullptr;
+    }
+    const std::size_t mask = m_slots.size() - 1;
+    for (std::size_t index = key.hash & mask;; index = (index + 1) & mask) {
+        const Slot& slot = m_slots[index];
+        if (!slot.entry) {
+            return nullptr;
+        }
+        if (slot.hash == key.hash && slot.entry->form == key.form && slot.entry->keyBytes.size() == key.size
+            && std::memcmp(slot.entry->keyBytes.data(), key.bytes, key.size) == 0) {
+            return &slot.entry->name;
+        }
+    }
+}
+
+const XmlName& NameTable::Insert(const Key& key, XmlName name)
+{
+    if (2 * (m_entries.size() + 1) > m_slots.size()) {
+        Grow();
+    }
+    m_entries.emplace_back(key, std::move(name));
+    FreeSlot(key.hash) = Slot{key.hash, &m_entries.back()};
+    return m_entries.back().name;
+}
+
+void NameTable::Grow()
+{
+    std::vector<Slot> old(std::max(FIRST_SLOT_COUNT, 2 * m_slots.size()), Slot{0, nullptr});
+    old.swap(m_slots);
+    for (const Slot& slot : old) {
+        if (slot.entry) {
+            FreeSlot(slot.hash) = slot;
+        }
+    }
+}
+
+NameTable::Slot& NameTable::FreeSlot(std::uint64_t hash) noexcept
+{
+    const std::size_t mask = m_slots.size() - 1;
+    std::size_t index = hash & mask;
+    while (m_slots[index].entry) {
+        index = (index + 1) & mask;
+    }
+    return m_slots[index];
+}
+
+} // namespace ZrXmlLib16

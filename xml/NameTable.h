@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#ifndef XML_NAMETABLE_H
+#define XML_NAMETABLE_H
+
+#include "xml/Utf16Text.h"
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <vector>
+
+namespace ZrXmlLib16 {
+
+/// The name of an element or attribute, with the two questions that readers ask about attribute names answered once.
+struct XmlName {
+    XmlName(std::wstring namespaceOfName, std::wstring localPart);
+
+    std::wstring namespaceUri;
+    std::wstring localName;
+    bool isNamespaceAttribute;
+    bool isNilAttribute;
+};
+
+/// The name of a node that was given none.
+const XmlName& EmptyXmlName();
+
+/// The distinct names of one document. A name lives as long as the table and never moves.
+///
+/// Names are found by the form they arrive in: the units the parser delivers, or namespace and local name as wide text. The same name
+/// arriving in both forms gets two entries, so equal names need not have equal addresses.
+class NameTable {
+public:
+    NameTable();
+    NameTable(const NameTable&) = delete;
+    NameTable& operator=(const NameTable&) = delete;
+
+    /// @param qualifiedName NUL-terminated: the namespace, "|" and the local name, or the local name alone.
+    const XmlName& Intern(const Utf16Unit* qualifiedName);
+    const XmlName& Intern(const std::wstring& namespaceUri, const std::wstring& localName);
+
+private:
+    enum class KeyForm { Parser, Wide };
+    struct Key {
+        const char* bytes;
+        std::size_t size;
+        KeyForm form;
+        std::uint64_t hash;
+    };
+    struct Entry {
+        Entry(const Key& key, XmlName entryName);
+
+        const std::string keyBytes;
+        const KeyForm form;
+        const XmlName name;
+    };
+    struct Slot {
+        std::uint64_t hash;
+        const Entry* entry; // null marks a free slot
+    };
+
+    Key MakeKey(const void* bytes, std::size_t size, KeyForm form) const noexcept;
+    const XmlName* Find(const Key& key) const noexcept;
+    const XmlName& Insert(const Key& key, XmlName name);
+    void Grow();
+    Slot& FreeSlot(std::uint64_t hash) noexcept;
+
+    std::deque<Entry> m_entries;
+    std::vector<Slot> m_slots; // open addressing; the size is a power of two, at most half of it in use
+    std::wstring m_wideKey; // reused
+};
+
+} // namespace ZrXmlLib16
+
+#endif

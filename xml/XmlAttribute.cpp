@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "ZrXmlLib16/XmlAttribute.h"
+
+#include "ZrXmlLib16/XmlDocument.h"
+#include "ZrXmlLib16/XmlElement.h"
+#include "xml/DocumentStorage.h"
+
+namespace ZrXmlLib16 {
+
+CXmlAttribute::CXmlAttribute(
+    CXmlElement* owner, const std::wstring& localName, const std::wstring& value, const std::wstring& namespaceUri)
+    : m_owner(owner)
+    , m_ownName(std::make_unique<const XmlName>(namespaceUri, localName))
+    , m_name(m_ownName.get())
+    , m_value(value)
+{
+}
+
+CXmlAttribute::CXmlAttribute(CXmlElement* owner, const XmlName& name)
+    : m_owner(owner)
+    , m_name(&name)
+{
+}
+
+CXmlAttribute::~CXmlAttribute() = default;
+
+void* CXmlAttribute::operator new(std::size_t size)
+{
+    return NodePool::AllocateFromHeap(size);
+}
+
+void* CXmlAttribute::operator new(std::size_t, NodePool& pool)
+{
+    return pool.Allocate();
+}
+
+void CXmlAttribute::operator delete(void* node)
+{
+    NodePool::Free(node);
+}
+
+void CXmlAttribute::operator delete(void* node, NodePool&)
+{
+    NodePool::Free(node);
+}
+
+const std::wstring& CXmlAttribute::GetNamespaceURI() const
+{
+    return m_name->namespaceUri;
+}
+
+const std::wstring& CXmlAttribute::GetLocalName() const
+{
+    return m_name->localName;
+}
+
+const std::wstring& CXmlAttribute::GetValue() const
+{
+    return m_value;
+}
+
+std::wstring CXmlAttribute::GetXPath() const
+{
+    std::wstring path = m_owner ? m_owner->GetXPath() : std::wstring();
+    path += L'/';
+    const CXmlDocument* const document = m_owner ? m_owner->GetDocument() : nullptr;
+    if (document && !GetNamespaceURI().empty()) {
+        const std::wstring prefix = document->LookupAliasFromNamespace(GetNamespaceURI());
+        if (!prefix.empty()) {
+            // kept: required behaviour. The prefix stands before the "@".
+            path.append(prefix).append(1, L':');
+        }
+    }
+    return path.append(1, L'@').append(GetLocalName());
+}
+
+bool CXmlAttribute::IsNamespaceAttribute() const
+{
+    return m_name->isNamespaceAttribute;
+}
+
+bool CXmlAttribute::IsNilAttribute() const
+{
+    return m_name->isNilAttribute;
+}
+
+} // namespace ZrXmlLib16

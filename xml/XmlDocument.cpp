@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: MIT
+#include "ZrXmlLib16/XmlDocument.h"
+
+#include "ZrXmlLib16/SerializationContext.h"
+#include "ZrXmlLib16/XmlElement.h"
+#include "ZrXmlLib16/ZrInvalidStateException.h"
+#include "xml/DocumentStorage.h"
+#include "xml/XmlMessages.h"
+
+#include <algorithm>
+#include <cwchar>
+
+namespace ZrXmlLib16 {
+
+namespace {
+
+constexpr wchar_t CARRIAGE_RETURN = 13;
+
+} // namespace
+
+CXmlDocument::CXmlDocument()
+    : CXmlDocument(nullptr, CSerializationContext::m_defaultContext)
+{
+}
+
+CXmlDocument::CXmlDocument(const CSerializationContext& context)
+    : CXmlDocument(nullptr, context)
+{
+}
+
+CXmlDocument::CXmlDocument(bool (*elementEnd)(CXmlElement*))
+    : CXmlDocument(elementEnd, CSerializationContext::m_defaultContext)
+{
+}
+
+CXmlDocument::CXmlDocument(bool (*elementEnd)(CXmlElement*), const CSerializationContext& context)
+    : m_inputSize(0)
+    , m_schemaType(SchemaType_XSD)
+    , m_elementEnd(elementEnd)
+    , m_context(&context)
+{
+    Init();
+}
+
+CXmlDocument::~CXmlDocument()
+{
+    DestroyTree();
+}
+
+void CXmlDocument::Cleanup()
+{
+    DestroyTree();
+    DestroyInput();
+    m_prefixMap.clear();
+}
+
+void CXmlDocument::Init()
+{
+    DestroyTree();
+    DestroyInput();
+    m_schemaType = m_context->GetSchemaType();
+}
+
+void CXmlDocument::DestroyTree() noexcept
+{
+    m_elementStack.clear();
+    m_documentElement.reset();
+    m_storage.reset();
+}
+
+void CXmlDocument::DestroyInput() noexcept
+{
+    m_inputBuffer.reset();
+    m_inputSize = 0;
+}
+
+void CXmlDocument::StorageDeleter::operator()(DocumentStorage* storage) const noexcept
+{
+    storage->Abandon();
+}
+
+DocumentStorage& CXmlDocument::GetStorage()
+{
+    if (!m_storage) {
+        m_storage.reset(new DocumentStorage);
+    }
+    return *m_storage;
+}
+
+CXmlElement* CXmlDocument::GetDocumentElement() const
+{
+    return m_documentElement.get();
+}
+
+CXmlElement* CXmlDocument::AddDocElement(const std::wstring& namespaceUri, const std::wstring& name)
+{
+    return OpenDocElement(GetStorage().GetNames().Intern(namespaceUri, name));
+}
+
+CXmlElement* CXmlDocument::AddChildElement(const std::wstring& namespaceUri, const std::wstring& name)
+{
+    return OpenChildElement(GetStorage().GetNames().Intern(namespaceUri, name));
+}
+
+CXmlElement* CXmlDocument::OpenDocElement(const XmlName& name)
+{
+    m_elementStack.clear();
+    m_documentElement = NewElement(nullptr, name);
+    m_elementStack.push_back(m_documentElement.get());
+    return m_documentElement.get();
+}
+
+CXmlElement* CXmlDocument::OpenChildElement(const XmlName& name)
+{
+    CXmlElement& parent = RequireOpenElement();
+    CXmlElement* const child = parent.AppendChild(NewElement(&parent, name));
+    m_elementStack.push_back(child);
+    return child;
+}
+
+std::unique_ptr<CXmlElement> CXmlDocument::NewElement(CXmlElement* parent, const XmlName& name)
+{
+    DocumentStorage& storage = GetStorage();
+    std::unique_ptr<CXmlElement> element(new (storage.GetElementPool()) CXmlElement(this, parent, &storage));
+    element->m_name = &name;
+    return element;
+}
+
+CXmlElement& CXmlDocument::RequireOpenElement() const
+{
+    if (m_elementStack.empty()) {
+        throw CZrInvalidStateException(Message::NO_ELEMENT_OPEN_IN_DOCUMENT);
+    }
+    return *m_elementStack.back();
+}
+
+CXmlElement& CXmlDocument::RequireOpenElement(CXmlElement* element) const
+{
+    if (!element) {
+        throw CZrInvalidStateException(Message::NO_ELEMENT_OPEN_IN_DOCUMENT);
+    }
+    RequireOpenElement();
+    return *element;
+}
+
+void CXmlDocument::AddElementAttribute(CXmlElement* element, const std::wstring& localName, const std::wstring& value,
+    const std::wstring& namespaceUri)
+{
+    RequireOpenElement(element).AddAttribute(localName, value, namespaceUri);
+}
+
+void CXmlDocument::AppendTextExcludingCR(CXmlElement* element, const wchar_t* text, unsigned long length)
+{
+    CXmlElement& target = RequireOpenElement(element);
+    const wchar_t* const end = text ? text + wcsnlen(text, length) : nullptr;
+    while (text != end) {
+        const wchar_t* const runEnd = std::find(text, end, CARRIAGE_RETURN);
+        target.AppendText(text, static_cast<unsigned long>(runEnd - text));
+        text = runEnd == end ? end : runEnd + 1;
+    }
+}
+
+void CXmlDocument::AppendTextExcludingCR(CXmlElement* element, const std::wstring& text)
+{
+    AppendTextExcludingCR(element, text.data(), text.size());
+}
+
+void CXmlDocument::EndElement()
+{
+    CXmlElement* const element = &RequireOpenElement();
+    m_elementStack.pop_back();
+    if (!m_elementEnd || !m_elementEnd(element) || m_elementStack.empty()) {
+        return;
+    }
+    CXmlElement* const parent = m_elementStack.back();
+    if (parent->m_lastChild == element) {
+        delete parent->RemoveLastChildElement();
+    }
+}
+
+void CXmlDocument::AddNamespaceDeclaration(const std::wstring& prefix, const std::wstring& uri)
+{
+    m_prefixMap[prefix] = uri;
+}
+
+std::wstring CXmlDocument::LookupNamespaceFromAlias(const std::wstring& prefix) const
+{
+    const auto found = m_prefixMap.find(prefix);
+    return found == m_prefixMap.end() ? std::wstring() : found->second;
+}
+
+std::wstring CXmlDocument::LookupAliasFromNamespace(const std::wstring& uri) const
+{
+    for (const auto& [prefix, boundUri] : m_prefixMap) {
+        if (boundUri == uri) {
+            return prefix;
+        }
+    }
+    return std::wstring();
+}
+
+CXmlElement* CXmlDocument::GetCurrentElement() const
+{
+    return m_elementStack.empty() ? nullptr : m_elementStack.back();
+}
+
+const unsigned char* CXmlDocument::GetInputBuffer() const
+{
+    return m_inputBuffer.get();
+}
+
+unsigned long CXmlDocument::GetInputSize() const
+{
+    return m_inputSize;
+}
+
+SchemaType CXmlDocument::GetSchemaType() const
+{
+    return m_schemaType;
+}
+
+const CSerializationContext& CXmlDocument::GetSerializationContext() const
+{
+    return *m_context;
+}
+
+} // namespace ZrXmlLib16

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "ZrXmlLib16/XmlWriter.h"
+
+#include "ZrXmlLib16/ZrException.h"
+#include "xml/XmlMessages.h"
+#include "xml/XmlNamespaces.h"
+
+#include <vector>
+
+namespace ZrXmlLib16 {
+
+namespace {
+
+constexpr int LETTERS = 26;
+
+// The number of an invented prefix, -1 for any other text.
+int NumberOfPrefix(const std::wstring& prefix)
+{
+    if (prefix.size() != 2 || prefix[0] < L'A' || prefix[1] < L'A' || prefix[1] > L'Z') {
+        return -1;
+    }
+    return (prefix[0] - L'A') * LETTERS + (prefix[1] - L'A');
+}
+
+} // namespace
+
+CXmlWriter::CXmlWriter(const wchar_t*)
+    : m_currentContext(nullptr)
+    , m_openContexts(0)
+{
+    m_namespaceMap.emplace(XML_NAMESPACE_URI, L"xml");
+}
+
+CXmlWriter::~CXmlWriter() = default;
+
+void CXmlWriter::Open() { }
+
+void CXmlWriter::Close()
+{
+    if (m_currentContext) {
+        throw CZrException(Message::ELEMENT_NOT_CLOSED);
+    }
+}
+
+void CXmlWriter::SetDefaultNamespace(const std::wstring& namespaceUri)
+{
+    if (m_currentContext) {
+        m_currentContext->SetDefaultNamespace(namespaceUri);
+    } else {
+        m_defaultNamespace = namespaceUri;
+    }
+}
+
+void CXmlWriter::AddNamespace(const std::wstring& prefix, const std::wstring& namespaceUri)
+{
+    if (m_currentContext) {
+        m_currentContext->SetNamespaceMapValue(namespaceUri, prefix);
+    } else {
+        m_namespaceMap[namespaceUri] = prefix;
+    }
+}
+
+void CXmlWriter::SetContextState(ContextState state)
+{
+    if (m_currentContext) {
+        m_currentContext->m_state = state;
+    }
+}
+
+// kept: required behaviour. Past number 675 the first character leaves the alphabet.
+std::wstring CXmlWriter::NsIntToString(int number)
+{
+    return {static_cast<wchar_t>(L'A' + number / LETTERS), static_cast<wchar_t>(L'A' + number % LETTERS)};
+}
+
+std::wstring CXmlWriter::GetUniquePrefix(const NamespaceMap& map) const
+{
+    // As many prefixes as the map has entries cannot take all of the first size + 1 numbers.
+    std::vector<bool> isTaken(map.size() + 1, false);
+    for (const auto& entry : map) {
+        const int number = NumberOfPrefix(entry.second);
+        if (number >= 0 && static_cast<std::size_t>(number) < isTaken.size()) {
+            isTaken[static_cast<std::size_t>(number)] = true;
+        }
+    }
+    int number = 0;
+    while (isTaken[static_cast<std::size_t>(number)]) {
+        ++number;
+    }
+    return NsIntToString(number);
+}
+
+CXmlWriter::CXmlWriterContext& CXmlWriter::OpenContext(
+    const std::wstring& name, const std::wstring& namespaceUri, unsigned long rootDepth)
+{
+    if (m_openContexts == m_contexts.size()) {
+        m_contexts.push_back(std::unique_ptr<CXmlWriterContext>(new CXmlWriterContext));
+    }
+    CXmlWriterContext& context = *m_contexts[m_openContexts];
+    if (m_currentContext) {
+        context.BeginChild(*m_currentContext);
+    } else {
+        context.BeginRoot(rootDepth, m_defaultNamespace, m_namespaceMap);
+    }
+    context.SetName(name, namespaceUri);
+    ++m_openContexts;
+    m_currentContext = &context;
+    return context;
+}
+
+void CXmlWriter::CloseContext() noexcept
+{
+    m_currentContext = m_currentContext->m_parent;
+    --m_openContexts;
+}
+
+bool CXmlWriter::IsPrefixed(const std::wstring& namespaceUri) const
+{
+    return !namespaceUri.empty() && namespaceUri != m_currentContext->m_scope->m_defaultNamespace;
+}
+
+const std::wstring& CXmlWriter::ObtainPrefix(const std::wstring& namespaceUri, bool& isNew)
+{
+    const std::wstring* prefix = m_currentContext->FindPrefix(namespaceUri);
+    isNew = !prefix;
+    if (isNew) {
+        // kept: required behaviour. A prefix belongs to the element it was invented on, so siblings invent it again.
+        m_currentContext->SetNamespaceMapValue(
+            namespaceUri, GetUniquePrefix(m_currentContext->m_scope->m_namespaceMap));
+        prefix = m_currentContext->FindPrefix(namespaceUri);
+    }
+    return *prefix;
+}
+
+} // namespace ZrXmlLib16
