@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+#include "support/Failure.h"
+#include "support/TestText.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <pthread.h>
+
+using namespace ZrXmlLib16;
+using namespace TestSupport;
+
+namespace {
+
+// Instrumented and unoptimised frames are several times larger than those of a release build.
+#if defined(__SANITIZE_ADDRESS__) || !defined(NDEBUG)
+const std::size_t stackSize = 16U << 20;
+#else
+const std::size_t stackSize = 4U << 20;
+#endif
+
+TestClass NodeClass()
+{
+    static const TestClass node = [] {
+        TestClass type = Class(L"n");
+        return type.Cls(L"n", type).Opt();
+    }();
+    return node;
+}
+
+std::wstring Nested(int levels)
+{
+    std::wstring text;
+    for (int i = 0; i < levels; ++i)
+        text += L"<n>";
+    for (int i = 0; i < levels; ++i)
+        text += L"</n>";
+    return text;
+}
+
+CSmartPtr<TestObject> NestedObject(int levels)
+{
+    CSmartPtr<TestObject> object = NodeClass().Create();
+    while (--levels > 0) {
+        const CSmartPtr<TestObject> parent = NodeClass().Create();
+        (*parent)[L"n"].SetXmlObject(object);
+        object = parent;
+    }
+    return object;
+}
+
+void RunOnSmallStack(std::function<void()> action)
+{
+    pthread_attr_t attributes;
+    pthread_attr_init(&attributes);
+    pthread_attr_setstacksize(&attributes, stackSize);
+    pthread_t thread;
+    const auto start = [](void* argument) -> void* {
+        (*static_cast<std::function<void()>*>(argument))();
+        return nullptr;
+    };
+    ASSERT_EQ(0, pthread_create(&thread, &attributes, start, &action));
+    pthread_join(thread, nullptr);
+    pthread_attr_destroy(&attributes);
+}
+
+std::size_t CountOf(const std::string& text, const std::string& part)
+{
+    std::size_t count = 0;
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + part.length()))
+        ++count;
+    return count;
+}
+
+} // namespace
+
+TEST(Depth, DefaultLimitFitsASmallThread)
+{
+    RunOnSmallStack([] {
+        const std::wstring text = Nested(1024);
+        const CSmartPtr<TestObject> object = NodeClass().Create();
+        object->FromXml(text.c_str());
+        EXPECT_EQ(1024U, CountOf(Narrow(object->ToXml(false, false)), "<n"));
+        const std::string reading = Read(NodeClass(), Nested(1025).c_str());
+        EXPECT_EQ("Zr: The element nesting is too deep.\nPath: /n/n", reading.substr(0, 47));
+        EXPECT_EQ(1025U, CountOf(reading, "/n"));
+        const std::string writing = Write(*NestedObject(1025));
+        EXPECT_EQ(1025U, CountOf(writing, "Validation: Failed to convert the element [n] to XML <- "));
+        EXPECT_EQ("Zr: The element nesting is too deep.", writing.substr(writing.rfind("Zr: ")));
+    });
+}
+
+TEST(Depth, LimitIsTheContexts)
+{
+    CSerializationContext context;
+    context.SetMaxDepth(3);
+    EXPECT_EQ("n{n=n{n=n{}}}", Read(NodeClass(), Nested(3).c_str(), context));
+    EXPECT_EQ("Zr: The element nesting is too deep.\nPath: /n/n/n/n", Read(NodeClass(), Nested(4).c_str(), context));
+    EXPECT_EQ("<n><n><n/></n></n>", Write(*NestedObject(3), context));
+    EXPECT_NE(std::string::npos, Write(*NestedObject(4), context).find("The element nesting is too deep."));
+    // The count is given back also after a failure.
+    EXPECT_EQ("n{n=n{n=n{}}}", Read(NodeClass(), Nested(3).c_str(), context));
+    context.SetMaxDepth(1);
+    EXPECT_EQ("n{}", Read(NodeClass(), L"<n/>", context));
+    EXPECT_EQ("Zr: The element nesting is too deep.\nPath: /n/n", Read(NodeClass(), Nested(2).c_str(), context));
+}
+
+TEST(Depth, InlineGroupsCountNothing)
+{
+    const TestClass innermost = Class(L"g3").Group().Prim(L"x");
+    const TestClass middle = Class(L"g2").Group().Cls(L"g3", innermost);
+    const TestClass type = Class(L"a").Cls(L"g2", middle);
+    CSerializationContext context;
+    context.SetMaxDepth(1);
+    EXPECT_EQ("a{g2=g2{g3=g3{x=1}}}", Read(type, L"<a><x>1</x></a>", context));
+}
+
+TEST(Depth, EntryPointsInsideAWalkAddUp)
+{
+    const TestClass type = Class(L"a").Prim(L"x").Opt();
+    TestObject outer(type), inner(type);
+    CSerializationContext context;
+    context.SetMaxDepth(1);
+    outer.m_onAccess = [&](const std::wstring&, bool) { inner.ToXml(false, false, EOL_LF, context); };
+    EXPECT_NE(std::string::npos, Write(outer, context).find("The element nesting is too deep."));
+    context.SetMaxDepth(2);
+    EXPECT_EQ("<a/>", Write(outer, context));
+}
+
+TEST(Depth, CyclicGraphEnds)
+{
+    const CSmartPtr<TestObject> object = NodeClass().Create();
+    (*object)[L"n"].SetXmlObject(object);
+    CSerializationContext context;
+    context.SetMaxDepth(50);
+    EXPECT_EQ(51U, CountOf(Write(*object, context), "Validation: "));
+    (*object)[L"n"].Clear();
+}
+
+TEST(Depth, UnknownContentMayBeNestedWithoutLimit)
+{
+    const std::wstring deep = Nested(100000);
+    const TestClass type = Class(L"a").Prim(L"x").Opt();
+    EXPECT_EQ("Zr: Failed read all the elements held within the element [a]. The unexpected element [n] remains un "
+              "processed\nPath: /a",
+        Read(type, (L"<a>" + deep + L"</a>").c_str()));
+    CSerializationContext ignoring;
+    ignoring.SetIgnoreUnknownElements(true);
+    EXPECT_EQ("a{x=1}", Read(type, (L"<a>" + deep + L"<x>1</x></a>").c_str(), ignoring));
+    EXPECT_EQ("Zr: The element nesting is too deep.\nPath: /n/n/n", Read(NodeClass(), deep.c_str()).substr(0, 49));
+}

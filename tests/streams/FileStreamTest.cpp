@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+#include "ZrXmlLib16/BinaryStream.h"
+#include "ZrXmlLib16/FileBinaryStream.h"
+#include "ZrXmlLib16/FileTextStream.h"
+#include "ZrXmlLib16/ZrException.h"
+#include "support/TestText.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include <unistd.h>
+
+using namespace ZrXmlLib16;
+
+namespace {
+
+class FileStream : public testing::Test {
+protected:
+    FileStream()
+        : m_folder(std::filesystem::temp_directory_path() / ("zrxml_streams_" + std::to_string(getpid())))
+    {
+        std::filesystem::create_directories(m_folder);
+    }
+
+    ~FileStream() override { std::filesystem::remove_all(m_folder); }
+
+    std::wstring Name(const wchar_t* file) const { return m_folder.wstring() + L'/' + file; }
+
+    static std::string ReadFile(const std::wstring& name)
+    {
+        std::ifstream file(TestSupport::Narrow(name), std::ios::binary);
+        EXPECT_TRUE(file.is_open());
+        return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+    }
+
+    std::filesystem::path m_folder;
+};
+
+std::wstring NotWritten(const std::wstring& name)
+{
+    return L"Failed to write data to the file [" + name + L"].";
+}
+
+} // namespace
+
+TEST_F(FileStream, TextIsFlushedInPartsAndTheFileReplaced)
+{
+    const std::wstring name = Name(L"caf\u00E9 \u20AC.xml"); // the C locale knows none of these letters
+    for (const wchar_t* text : {L"a long first text", L"\u20AC\xD83D\xDE00"}) {
+        CFileTextStream stream(name.c_str(), Encoding_UTF8);
+        stream.Open();
+        stream.Append(L"a text that is dropped and overwritten");
+        stream.Flush();
+        stream.Append(L"dropped");
+        stream.Open();
+        stream.Append(text);
+        stream.Flush();
+        EXPECT_EQ(0u, stream.GetLength());
+        EXPECT_EQ(TestSupport::Narrow(text), ReadFile(name));
+        stream.Flush();
+        stream.Append(L"end");
+        stream.Close();
+        EXPECT_EQ(TestSupport::Narrow(text) + "end", ReadFile(name));
+        stream.Close();
+    }
+}
+
+TEST_F(FileStream, DestructionWritesWhatIsLeftAndReportsNothing)
+{
+    {
+        CFileTextStream stream(Name(L"a").c_str(), Encoding_UTF8);
+        stream.Open();
+        stream.Append(L"text");
+        CFileTextStream undecided(Name(L"b").c_str(), Encoding_None);
+        undecided.Open();
+        undecided.Append(L"text");
+    }
+    EXPECT_EQ("text", ReadFile(Name(L"a")));
+    EXPECT_EQ("", ReadFile(Name(L"b")));
+}
+
+TEST_F(FileStream, WithoutAnOpenFileCloseDoesNothingAndFlushFails)
+{
+    CFileTextStream stream(Name(L"a").c_str(), Encoding_UTF8);
+    stream.Flush();
+    stream.Close();
+    stream.Append(L"text");
+    EXPECT_EQ(L"Failed to write data to the file", TestSupport::MessageOf<CZrException>([&] { stream.Flush(); }));
+    stream.Close();
+    EXPECT_STREQ(L"text", stream.GetText());
+}
+
+TEST_F(FileStream, keeps_TheMarkBeforeWideUnitsAndWidenedOctets)
+{
+    const struct {
+        XmlEncoding encoding;
+        std::string text;
+    } cases[] = {{Encoding_None, ""}, {Encoding_UTF8, "A"},
+        {Encoding_UTF16,
+            std::string("\xFF\xFE"
+                        "A\0",
+                4)},
+        {Encoding_Wide,
+            std::string("\xFF\xFE"
+                        "A\0\0\0",
+                6)}};
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.encoding);
+        CFileTextStream stream(Name(L"a").c_str(), row.encoding);
+        stream.Open();
+        stream.Append(row.encoding == Encoding_None ? L"" : L"A");
+        stream.Close();
+        EXPECT_EQ(row.text, ReadFile(Name(L"a")));
+
+        CFileBinaryStream binary(Name(L"b").c_str(), row.encoding);
+        binary.Append(static_cast<unsigned char>('A'));
+        binary.ToFile();
+        EXPECT_EQ(row.text.substr(0, row.encoding >= Encoding_UTF16 ? 2 : 0) + "A", ReadFile(Name(L"b")));
+    }
+}
+
+TEST_F(FileStream, UnwritableFilesAreReportedWithTheirName)
+{
+    for (const std::wstring& name : {Name(L"missing/\u20AC"), m_folder.wstring(), std::wstring()}) {
+        for (const XmlEncoding encoding : {Encoding_UTF8, Encoding_Wide}) {
+            CFileTextStream text(name.c_str(), encoding);
+            EXPECT_EQ(NotWritten(name), TestSupport::MessageOf<CZrException>([&] { text.Open(); }));
+            text.Close();
+            CFileBinaryStream binary(name.c_str(), encoding);
+            EXPECT_EQ(NotWritten(name), TestSupport::MessageOf<CZrException>([&] { binary.ToFile(); }));
+        }
+    }
+    EXPECT_EQ(
+        NotWritten(L""), TestSupport::MessageOf<CZrException>([] { CFileTextStream(nullptr, Encoding_UTF8).Open(); }));
+}
+
+TEST_F(FileStream, AFullDiskIsReported)
+{
+    const wchar_t* const full = L"/dev/full";
+    if (!std::filesystem::exists(full)) {
+        GTEST_SKIP();
+    }
+    CFileTextStream marked(full, Encoding_UTF16);
+    EXPECT_EQ(NotWritten(full), TestSupport::MessageOf<CZrException>([&] { marked.Open(); }));
+    CFileTextStream text(full, Encoding_UTF8);
+    text.Open();
+    text.Append(L"x");
+    EXPECT_EQ(L"Failed to write data to the file", TestSupport::MessageOf<CZrException>([&] { text.Flush(); }));
+    text.Close(); // the file was closed by the failure
+    CFileBinaryStream binary(full, Encoding_UTF8);
+    binary.Append(static_cast<unsigned char>('x'));
+    EXPECT_EQ(NotWritten(full), TestSupport::MessageOf<CZrException>([&] { binary.ToFile(); }));
+}
+
+TEST_F(FileStream, BinaryStreamsAppendToTheirOwnOrTheCallersBuffer)
+{
+    CBinaryData target(L"");
+    CFileBinaryStream file(Name(L"a").c_str(), Encoding_UTF8, target);
+    CBinaryStream own;
+    CBinaryStream given(target);
+    for (CBinaryStream* stream : {static_cast<CBinaryStream*>(&own), &given}) {
+        stream->Append(static_cast<unsigned char>(0));
+        stream->Append(reinterpret_cast<const unsigned char*>("\r\n"), 2);
+        stream->Append(stream->GetBinaryStream());
+    }
+    EXPECT_EQ(L"000D0A000D0A", own.GetBinaryStream().GetAsHexString());
+    EXPECT_TRUE(target == own.GetBinaryStream());
+    EXPECT_EQ(&target, &file.GetBinaryStream());
+    file.ToFile();
+    EXPECT_EQ(std::string("\0\r\n\0\r\n", 6), ReadFile(Name(L"a")));
+    target.Clear();
+    file.ToFile();
+    EXPECT_EQ("", ReadFile(Name(L"a")));
+}

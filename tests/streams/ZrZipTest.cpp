@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include "ZrXmlLib16/ZrZip.h"
+#include "ZrXmlLib16/ZrException.h"
+#include "support/TestText.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <string>
+
+using namespace ZrXmlLib16;
+
+namespace {
+
+/// A caller's buffer as the compressor takes it.
+struct Buffer {
+    explicit Buffer(const std::string& octets)
+        : data(new unsigned char[octets.size()])
+        , length(octets.size())
+    {
+        std::copy(octets.begin(), octets.end(), data);
+    }
+    ~Buffer() { delete[] data; }
+    Buffer(const Buffer&) = delete;
+    Buffer& operator=(const Buffer&) = delete;
+
+    std::string Content() const { return std::string(reinterpret_cast<const char*>(data), length); }
+
+    unsigned char* data;
+    unsigned long length;
+};
+
+std::string Compressed(const std::string& octets, CompressionType type)
+{
+    Buffer buffer(octets);
+    CZrZip::Compress(&buffer.data, &buffer.length, type);
+    return buffer.Content();
+}
+
+std::string Decompressed(const std::string& octets)
+{
+    Buffer buffer(octets);
+    CZrZip::Decompress(&buffer.data, &buffer.length);
+    return buffer.Content();
+}
+
+std::string SampleText(std::size_t length)
+{
+    std::string text;
+    for (int number = 0; text.size() < length; ++number) {
+        text += "<item>" + std::to_string(number) + "</item>";
+    }
+    return text.substr(0, length);
+}
+
+} // namespace
+
+TEST(ZrZip, BothFormatsRoundTrip)
+{
+    for (const std::size_t length : {300u, 65535u, 65536u, 65537u, 131072u, 1000000u}) {
+        const std::string text = SampleText(length);
+        const std::string gzip = Compressed(text, Compression_GZip);
+        const std::string zlib = Compressed(text, Compression_ZLib);
+        EXPECT_EQ("\x1F\x8B", gzip.substr(0, 2));
+        EXPECT_EQ("\x78\x01", zlib.substr(0, 2));
+        EXPECT_LT(gzip.size(), length);
+        EXPECT_LT(zlib.size(), gzip.size());
+        EXPECT_TRUE(Decompressed(gzip) == text);
+        EXPECT_TRUE(Decompressed(zlib) == text);
+        EXPECT_TRUE(Decompressed(gzip + "trailing") == text);
+    }
+}
+
+TEST(ZrZip, OtherTypesCompressNothing)
+{
+    for (const int type : {0, 3, -1}) {
+        EXPECT_EQ("text", Compressed("text", static_cast<CompressionType>(type)));
+        CBinaryData data(L"text");
+        CZrZip::CompressData(data, static_cast<CompressionType>(type));
+        EXPECT_TRUE(data == CBinaryData(L"text"));
+    }
+}
+
+TEST(ZrZip, keeps_RefusingDataThatDoesNotShrink)
+{
+    std::string random;
+    std::mt19937 generator(7);
+    for (int i = 0; i < 100000; ++i) {
+        random.push_back(static_cast<char>(generator()));
+    }
+    for (const std::string& octets : {std::string(), std::string("a"), std::string("<a/>"), random}) {
+        for (const CompressionType type : {Compression_GZip, Compression_ZLib}) {
+            Buffer buffer(octets);
+            const unsigned char* const before = buffer.data;
+            const std::wstring message =
+                TestSupport::MessageOf<CZrException>([&] { CZrZip::Compress(&buffer.data, &buffer.length, type); });
+            EXPECT_EQ(0u, message.find(L"Failed to compress data. [Error Code: ")) << TestSupport::Narrow(message);
+            EXPECT_EQ(L']', message.back());
+            EXPECT_EQ(before, buffer.data);
+            EXPECT_EQ(octets, buffer.Content());
+        }
+    }
+}
+
+TEST(ZrZip, WhatIsNotCompressedPassesThrough)
+{
+    const std::string gzip = Compressed(SampleText(5000), Compression_GZip);
+    std::string damaged = gzip;
+    damaged[gzip.size() / 2] = static_cast<char>(~damaged[gzip.size() / 2]);
+    std::string wrongCheck = gzip;
+    wrongCheck[gzip.size() - 6] = static_cast<char>(~wrongCheck[gzip.size() - 6]);
+    const std::string cases[] = {"", "x", "\x1F", "\x78", "<?xml version=\"1.0\"?><a/>", "\x1F\x8B plain",
+        "\x78\x01 plain", "\x78\xBB\x11\x22\x33\x44 preset dictionary", damaged, wrongCheck};
+    for (const std::string& octets : cases) {
+        Buffer buffer(octets);
+        const unsigned char* const before = buffer.data;
+        CZrZip::Decompress(&buffer.data, &buffer.length);
+        EXPECT_EQ(before, buffer.data);
+        EXPECT_TRUE(octets == buffer.Content());
+    }
+    for (std::size_t length = 0; length < gzip.size(); ++length) {
+        ASSERT_TRUE(Decompressed(gzip.substr(0, length)) == gzip.substr(0, length)) << length;
+    }
+    unsigned char* null = nullptr;
+    unsigned long length = 0;
+    CZrZip::Decompress(&null, &length);
+    EXPECT_EQ(nullptr, null);
+}
+
+TEST(ZrZip, CompressedNothingDecompressesToNothing)
+{
+    const std::string empty("\x78\x9C\x03\x00\x00\x00\x00\x01", 8);
+    Buffer buffer(empty);
+    CZrZip::Decompress(&buffer.data, &buffer.length);
+    EXPECT_EQ(0u, buffer.length);
+}
+
+TEST(ZrZip, ValuesAreCompressedOrStayAsTheyWere)
+{
+    const std::string text = SampleText(4000);
+    CBinaryData data;
+    CZrZip::CompressData(data, Compression_GZip);
+    EXPECT_EQ(0u, data.GetLength());
+    data.Append(reinterpret_cast<const unsigned char*>(text.data()), text.size());
+    const CBinaryData copy(data);
+    CZrZip::CompressData(data, Compression_GZip);
+    EXPECT_EQ(text, Decompressed(std::string(reinterpret_cast<const char*>(data.GetData()), data.GetLength())));
+    EXPECT_EQ(text.size(), copy.GetLength());
+
+    CBinaryData tooShort(L"a");
+    EXPECT_THROW(CZrZip::CompressData(tooShort, Compression_ZLib), CZrException);
+    EXPECT_TRUE(tooShort == CBinaryData(L"a"));
+}

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#ifndef TESTS_SUPPORT_FAILURE_H
+#define TESTS_SUPPORT_FAILURE_H
+
+#include "support/TestObject.h"
+
+#include <functional>
+#include <string>
+
+namespace TestSupport {
+
+/// The whole exception chain that the action ends with, outermost first: "Validation: message\nPath: /a <- Zr:
+/// message". Types are written without "CZr" and "Exception"; the base class is "Zr". Empty when nothing is thrown.
+std::string FailureOf(const std::function<void()>& action);
+
+/// Reads the text into a new object: its description, or the failure.
+std::string Read(const TestClass& type, const wchar_t* xml,
+    const ZrXmlLib16::CSerializationContext& context = ZrXmlLib16::CSerializationContext::m_defaultContext);
+
+/// The unformatted text without header, or the failure.
+std::string Write(const TestObject& object,
+    const ZrXmlLib16::CSerializationContext& context = ZrXmlLib16::CSerializationContext::m_defaultContext);
+
+} // namespace TestSupport
+
+#endif

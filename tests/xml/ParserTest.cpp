@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+#include "ZrXmlLib16/SerializationContext.h"
+#include "ZrXmlLib16/XmlDocument.h"
+#include "ZrXmlLib16/ZrException.h"
+#include "support/TestText.h"
+#include "xml/TreeText.h"
+
+using namespace ZrXmlLib16;
+using TestSupport::MessageOf;
+using TestSupport::TreeText;
+
+namespace {
+
+std::wstring ParsedTree(const char* text, const CSerializationContext& context = CSerializationContext::m_defaultContext)
+{
+    CXmlDocument document(context);
+    document.LoadXml(text);
+    return TreeText(document.GetDocumentElement());
+}
+
+} // namespace
+
+TEST(Parser, TurnsEventsIntoTheTree)
+{
+    const struct {
+        const char* text;
+        const wchar_t* tree;
+    } cases[] = {
+        {"<?xml version='1.0'?><!DOCTYPE a [<!ATTLIST a d CDATA 'given'>]><?pi x?><!--c--><a>1<!--c-->2<?pi?>3</a><!--c-->",
+            L"a @d=given '123'"},
+        {"<p:a xmlns:p='urn:p' p:x='1' y='2'><b xmlns='urn:d' z='3' xml:lang='en'/></p:a>",
+            L"{urn:p}a @{urn:p}x=1 @y=2 ({urn:d}b @z=3 @{http://www.w3.org/XML/1998/namespace}lang=en)"},
+        {"<a>x<b>in</b>y<b/>z</a>", L"a 'xyz' (b 'in', b)"},
+        {"<!DOCTYPE a [<!ENTITY e '[&#60;b>in&#60;/b>]'>]><a n=' &lt;&#10;&#13;&quot; '>&e;&amp;&gt;</a>",
+            L"a @n= <\n\r\"  '[]&>' (b 'in')"},
+        {"<!DOCTYPE a SYSTEM 'nowhere.dtd'><a>x&undefined;y</a>", L"a 'xy'"},
+        {"\xEF\xBB\xBF<a>\xC3\xA9\xE2\x82\xAC</a>", L"a '\u00E9\u20AC'"},
+        {"<?xml version='1.0' encoding='ISO-8859-1'?><a>\xE9</a>", L"a '\u00E9'"},
+    };
+    for (const auto& row : cases) {
+        EXPECT_EQ(row.tree, ParsedTree(row.text)) << row.text;
+    }
+}
+
+TEST(Parser, keeps_NoCarriageReturnsInText)
+{
+    EXPECT_EQ(L"a 'x\ny\nzw'", ParsedTree("<a>x\r\ny\rz&#13;w</a>"));
+    EXPECT_EQ(L"a ']]'", ParsedTree("<a>&#13;]]&#13;&#13;</a>"));
+}
+
+TEST(Parser, LongTextArrivesWhole)
+{
+    std::string text = "<a>";
+    std::wstring expected;
+    for (int i = 0; i < 5000; ++i) {
+        const char letter = static_cast<char>('a' + i % 26);
+        text.append(static_cast<std::size_t>(i % 7), letter).append(i % 3 == 0 ? "\r\n" : "&amp;");
+        expected.append(static_cast<std::size_t>(i % 7), static_cast<wchar_t>(letter)).append(i % 3 == 0 ? L"\n" : L"&");
+    }
+    text.append(5000, 'x').append("</a>");
+    expected.append(5000, L'x');
+    CXmlDocument document;
+    document.LoadXml(text.c_str());
+    EXPECT_TRUE(expected == document.GetDocumentElement()->GetText());
+}
+
+TEST(Parser, TellsManyNamesApart)
+{
+    std::string text = "<r>";
+    std::wstring expected = L"r (";
+    for (int i = 0; i < 300; ++i) {
+        const std::string number = std::to_string(i);
+        text += "<n" + number + " xmlns='urn:" + number + "' a" + number + "='" + number + "'/>";
+        const std::wstring wide = std::to_wstring(i);
+        expected += (i ? L", {urn:" : L"{urn:") + wide + L"}n" + wide + L" @a" + wide + L"=" + wide;
+    }
+    EXPECT_EQ(expected + L")", ParsedTree((text + "</r>").c_str()));
+}
+
+TEST(Parser, ReportsErrorsWithTheirLine)
+{
+    const struct {
+        const char* text;
+        const wchar_t* message;
+    } cases[] = {
+        {"<a>\n<b>\n</a>", L"mismatched tag at line 3"},
+        {"<a>\n\n", L"no element found at line 3"},
+        {" \n<?xml version='1.0'?><a/>", L"XML or text declaration not at start of entity at line 2"},
+        {"<a/><b/>", L"junk after document element at line 1"},
+        {"<a\nb='1'\nb='2'/>", L"duplicate attribute at line 3"},
+        {"<p:a/>", L"unbound prefix at line 1"},
+        {"<a>&undefined;</a>", L"undefined entity at line 1"},
+        {"<a xmlns='u|v'/>", L"syntax error at line 1"},
+        {"\x01", L"not well-formed (invalid token) at line 1"},
+        {"<?xml version='1.0' encoding='nonsense'?><a/>", L"unknown encoding at line 1"},
+    };
+    for (const auto& row : cases) {
+        CXmlDocument document;
+        EXPECT_EQ(row.message, MessageOf<CZrException>([&] { document.LoadXml(row.text); })) << row.text;
+    }
+}
+
+TEST(Parser, KeepsWhatWasBuiltBeforeAnError)
+{
+    CXmlDocument document;
+    EXPECT_THROW(document.LoadXml("<a><b>x</b><c></a>"), CZrException);
+    EXPECT_EQ(L"a (b 'x', c)", TreeText(document.GetDocumentElement()));
+    document.LoadXml("<d><e/></d>");
+    EXPECT_EQ(L"d (e)", TreeText(document.GetDocumentElement()));
+}
+
+TEST(Parser, StopsEntityAmplification)
+{
+    std::string text = "<!DOCTYPE a [<!ENTITY e0 'xxxxxxxxxx'>";
+    for (int i = 1; i < 12; ++i) {
+        text += "<!ENTITY e" + std::to_string(i) + " '";
+        for (int j = 0; j < 10; ++j) {
+            text += "&e" + std::to_string(i - 1) + ";";
+        }
+        text += "'>";
+    }
+    text += "]><a>&e11;</a>";
+    CXmlDocument document;
+    EXPECT_EQ(L"limit on input amplification factor (from DTD and entities) breached at line 1",
+        MessageOf<CZrException>([&] { document.LoadXml(text.c_str()); }));
+}
+
+TEST(Parser, keeps_SectionDelimitersUnlessStripped)
+{
+    const char* const text = "<a>1<![CDATA[<x/>\r\n&amp;]]>2<![CDATA[]]></a>";
+    CSerializationContext context;
+    context.SetStripCDATA(false);
+    EXPECT_EQ(L"a '1<![CDATA[<x/>\n&amp;]]>2<![CDATA[]]>'", ParsedTree(text, context));
+    context.SetStripCDATA(true);
+    EXPECT_EQ(L"a '1<x/>\n&amp;2'", ParsedTree(text, context));
+}
+
+TEST(Parser, keeps_PrefixesAndDeclarationsForSchemaType2)
+{
+    CSerializationContext context;
+    context.SetSchemaType(SchemaType_DTD);
+    EXPECT_EQ(L"p:a @xmlns:p=urn:p @xmlns=urn:d @p:x=1 (unbound:b)",
+        ParsedTree("<p:a xmlns:p='urn:p' xmlns='urn:d' p:x='1'><unbound:b/></p:a>", context));
+}
+
+TEST(Parser, keeps_SupplementaryCharactersAsTwoCharacters)
+{
+    CXmlDocument document;
+    document.LoadXml("<a n='\xF0\x9F\x98\x80'>&#x1F600;\xF0\x9F\x98\x80</a>");
+    const std::wstring pair = {wchar_t{0xD83D}, wchar_t{0xDE00}};
+    EXPECT_EQ(pair + pair, document.GetDocumentElement()->GetText());
+    EXPECT_EQ(pair, document.GetDocumentElement()->GetAttribute(L"n", L""));
+    document.LoadXml((L"<a>" + pair + L"</a>").c_str());
+    EXPECT_EQ(pair, document.GetDocumentElement()->GetText());
+}
+
+TEST(Parser, keeps_TheLow16BitsOfWideText)
+{
+    CXmlDocument document;
+    document.LoadXml(L"<a>\U0001F600\u20AC</a>");
+    EXPECT_EQ(std::wstring({wchar_t{0xF600}, wchar_t{0x20AC}}), document.GetDocumentElement()->GetText());
+    EXPECT_EQ(L"not well-formed (invalid token) at line 1",
+        MessageOf<CZrException>([&] { document.LoadXml(std::wstring({L'<', L'a', L'>', wchar_t{0xD83D}, L'<', L'/', L'a', L'>'}).c_str()); }));
+}
+
+TEST(Parser, keeps_WideTextThatDeclaresAnEightBitEncodingRefused)
+{
+    CXmlDocument document;
+    EXPECT_EQ(L"encoding specified in XML declaration is incorrect at line 1",
+        MessageOf<CZrException>([&] { document.LoadXml(L"<?xml version='1.0' encoding='UTF-8'?><a/>"); }));
+    document.LoadXml(L"<?xml version='1.0' encoding='UTF-16'?><a/>");
+    EXPECT_EQ(L"a", TreeText(document.GetDocumentElement()));
+}
