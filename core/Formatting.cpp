@@ -3,9 +3,11 @@
 
 #include "ZrXmlLib16/Encoder.h"
 #include "core/FormatLength.h"
+#include "values/DigitText.h"
 
 #include <sys/stat.h>
 
+#include <cstdint>
 #include <cwchar>
 
 namespace ZrXmlLib16 {
@@ -112,11 +114,9 @@ long _filelength(FILE* file)
 
 std::wstring ToFracString(unsigned short milli, unsigned short micro, unsigned short nano)
 {
-    if (milli == 0 && micro == 0 && nano == 0) {
-        return std::wstring();
-    }
-    const long nanoseconds = milli * 1000000L + micro * 1000L + nano;
-    return L"." + TrimTrainingZeros(FormatString(L"%09ld", nanoseconds % 1000000000L));
+    const std::uint64_t nanoseconds = milli * 1000000ULL + micro * 1000ULL + nano;
+    wchar_t text[16];
+    return std::wstring(text, WriteFraction(text, static_cast<std::uint32_t>(nanoseconds % 1000000000ULL)));
 }
 
 } // namespace ZrXmlLib16
