@@ -9,6 +9,10 @@ function(zrxml_compile_options target)
   if(ZRXML_SANITIZE)
     target_compile_options(${target} PRIVATE
       -fsanitize=${ZRXML_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+      # With instrumentation GCC takes members of standard containers and functions for uninitialised.
+      target_compile_options(${target} PRIVATE -Wno-maybe-uninitialized)
+    endif()
     target_link_options(${target} PRIVATE -fsanitize=${ZRXML_SANITIZE})
   endif()
 endfunction()

@@ -13,6 +13,7 @@
 
 #include <expat.h>
 
+#include <algorithm>
 #include <cstring>
 #include <new>
 #include <type_traits>
@@ -24,6 +25,7 @@ namespace {
 static_assert(sizeof(XML_Char) == 2 && std::is_same_v<XML_Char, Utf16Unit>);
 
 constexpr XML_Char NAMESPACE_SEPARATOR = L'|';
+constexpr std::size_t TEXT_BUFFER_SIZE = 1024;
 constexpr unsigned long LARGEST_SLICE = 1ul << 30;
 
 std::wstring WidenOptional(const Utf16Unit* units)
@@ -51,6 +53,7 @@ void CExpatReader::ParserDeleter::operator()(XML_ParserStruct* parser) const noe
 
 CExpatReader::CExpatReader(CXmlDocument& document)
     : m_document(document)
+    , m_textLength(0)
 {
 }
 
@@ -58,6 +61,7 @@ CExpatReader::~CExpatReader() = default;
 
 void CExpatReader::CreateParser()
 {
+    m_textBuffer.reset(new wchar_t[TEXT_BUFFER_SIZE]);
     // kept: required behaviour. Without namespace processing names keep prefix and colon, and declarations are attributes.
     const bool ignoresNamespaces = m_document.GetSchemaType() == SchemaType_DTD;
     m_parser.reset(ignoresNamespaces ? XML_ParserCreate(nullptr) : XML_ParserCreateNS(nullptr, NAMESPACE_SEPARATOR));
@@ -95,16 +99,20 @@ void CExpatReader::Parse(bool isFinal)
 void CExpatReader::Cleanup()
 {
     m_parser.reset();
+    m_textBuffer.reset();
+    m_textLength = 0;
 }
 
 void CExpatReader::ThrowFailure()
 {
     const std::wstring description = DescribeError(XML_GetErrorCode(m_parser.get()));
     const int line = static_cast<int>(XML_GetCurrentLineNumber(m_parser.get()));
-    Cleanup();
     if (m_handlerFailure) {
+        Cleanup();
         std::rethrow_exception(m_handlerFailure);
     }
+    FlushText();
+    Cleanup();
     throw CZrException(FormatString(Message::PARSE_FAILED, description.c_str(), line));
 }
 
@@ -130,6 +138,7 @@ void CExpatReader::FnStartElement(void* reader, const Utf16Unit* name, const Utf
 
 void CExpatReader::StartElement(const Utf16Unit* name, const Utf16Unit** attributes)
 {
+    FlushText();
     NameTable& names = m_document.GetStorage().GetNames();
     const XmlName& elementName = names.Intern(name);
     CXmlElement* const element = m_document.GetDocumentElement() ? m_document.OpenChildElement(elementName)
@@ -146,14 +155,37 @@ void CExpatReader::StartElement(const Utf16Unit* name, const Utf16Unit** attribu
 
 void CExpatReader::FnEndElement(void* reader, const Utf16Unit*) noexcept
 {
-    Guard(reader, [](CExpatReader& self) { self.m_document.EndElement(); });
+    Guard(reader, [](CExpatReader& self) {
+        self.FlushText();
+        self.m_document.EndElement();
+    });
 }
 
 void CExpatReader::FnText(void* reader, const Utf16Unit* text, int length) noexcept
 {
-    Guard(reader, [=](CExpatReader& self) {
-        AppendUtf16ExcludingCR(self.m_document.RequireOpenElement().m_text, text, static_cast<std::size_t>(length));
-    });
+    Guard(reader, [=](CExpatReader& self) { self.AddText(text, static_cast<std::size_t>(length)); });
+}
+
+void CExpatReader::AddText(const Utf16Unit* text, std::size_t length)
+{
+    while (length > 0) {
+        if (m_textLength == TEXT_BUFFER_SIZE) {
+            FlushText();
+        }
+        const std::size_t part = std::min(length, TEXT_BUFFER_SIZE - m_textLength);
+        wchar_t* const end = WidenExcludingCR(m_textBuffer.get() + m_textLength, text, part);
+        m_textLength = static_cast<std::size_t>(end - m_textBuffer.get());
+        text += part;
+        length -= part;
+    }
+}
+
+void CExpatReader::FlushText()
+{
+    if (m_textLength > 0) {
+        m_document.RequireOpenElement().AppendText(m_textBuffer.get(), m_textLength);
+        m_textLength = 0;
+    }
 }
 
 void CExpatReader::FnStartNamespace(void* reader, const Utf16Unit* prefix, const Utf16Unit* uri) noexcept
@@ -168,15 +200,21 @@ void CExpatReader::FnEndNamespace(void*, const Utf16Unit*) noexcept
     // The document keeps every prefix: types are resolved after the parse.
 }
 
+void CExpatReader::AddDelimiter(const wchar_t* text, std::size_t length)
+{
+    FlushText();
+    m_document.RequireOpenElement().AppendText(text, length);
+}
+
 // kept: required behaviour. A section keeps its delimiters in the text unless they are stripped.
 void CExpatReader::FnStartCDATA(void* reader) noexcept
 {
-    Guard(reader, [](CExpatReader& self) { self.m_document.RequireOpenElement().AppendText(L"<![CDATA[", 9); });
+    Guard(reader, [](CExpatReader& self) { self.AddDelimiter(L"<![CDATA[", 9); });
 }
 
 void CExpatReader::FnEndCDATA(void* reader) noexcept
 {
-    Guard(reader, [](CExpatReader& self) { self.m_document.RequireOpenElement().AppendText(L"]]>", 3); });
+    Guard(reader, [](CExpatReader& self) { self.AddDelimiter(L"]]>", 3); });
 }
 
 } // namespace ZrXmlLib16

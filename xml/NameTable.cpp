@@ -74,12 +74,36 @@ NameTable::Entry::Entry(const Key& key, XmlName entryName)
 
 NameTable::NameTable() = default;
 
+bool NameTable::Entry::Is(const Utf16Unit* qualifiedName) const noexcept
+{
+    const char* bytes = keyBytes.data();
+    for (;; ++qualifiedName, bytes += sizeof(Utf16Unit)) {
+        Utf16Unit unit = 0;
+        std::memcpy(&unit, bytes, sizeof(unit));
+        if (unit != *qualifiedName) {
+            return false;
+        }
+        if (unit == 0) {
+            return true;
+        }
+    }
+}
+
 const XmlName& NameTable::Intern(const Utf16Unit* qualifiedName)
 {
+    if (m_previous && m_previous->follower && m_previous->follower->Is(qualifiedName)) {
+        m_previous = m_previous->follower;
+        return m_previous->name;
+    }
     const std::size_t length = Utf16Length(qualifiedName);
-    const Key key = MakeKey(qualifiedName, length * sizeof(Utf16Unit), KeyForm::Parser);
-    const XmlName* found = Find(key);
-    return found ? *found : Insert(key, SplitName(qualifiedName, length));
+    const Key key = MakeKey(qualifiedName, (length + 1) * sizeof(Utf16Unit), KeyForm::Parser);
+    Entry* const found = Find(key);
+    Entry& entry = found ? *found : Insert(key, SplitName(qualifiedName, length));
+    if (m_previous) {
+        m_previous->follower = &entry;
+    }
+    m_previous = &entry;
+    return entry.name;
 }
 
 const XmlName& NameTable::Intern(const std::wstring& namespaceUri, const std::wstring& localName)
@@ -87,8 +111,8 @@ const XmlName& NameTable::Intern(const std::wstring& namespaceUri, const std::ws
     m_wideKey.assign(1, static_cast<wchar_t>(namespaceUri.size()));
     m_wideKey.append(namespaceUri).append(localName);
     const Key key = MakeKey(m_wideKey.data(), m_wideKey.size() * sizeof(wchar_t), KeyForm::Wide);
-    const XmlName* found = Find(key);
-    return found ? *found : Insert(key, XmlName(namespaceUri, localName));
+    const Entry* const found = Find(key);
+    return found ? found->name : Insert(key, XmlName(namespaceUri, localName)).name;
 }
 
 NameTable::Key NameTable::MakeKey(const void* bytes, std::size_t size, KeyForm form) const noexcept
@@ -110,7 +134,7 @@ NameTable::Key NameTable::MakeKey(const void* bytes, std::size_t size, KeyForm f
     return Key{text, size, form, hash};
 }
 
-const XmlName* NameTable::Find(const Key& key) const noexcept
+NameTable::Entry* NameTable::Find(const Key& key) const noexcept
 {
     if (m_slots.empty()) {
         return nullptr;
@@ -123,19 +147,19 @@ const XmlName* NameTable::Find(const Key& key) const noexcept
         }
         if (slot.hash == key.hash && slot.entry->form == key.form && slot.entry->keyBytes.size() == key.size
             && std::memcmp(slot.entry->keyBytes.data(), key.bytes, key.size) == 0) {
-            return &slot.entry->name;
+            return slot.entry;
         }
     }
 }
 
-const XmlName& NameTable::Insert(const Key& key, XmlName name)
+NameTable::Entry& NameTable::Insert(const Key& key, XmlName name)
 {
     if (2 * (m_entries.size() + 1) > m_slots.size()) {
         Grow();
     }
     m_entries.emplace_back(key, std::move(name));
     FreeSlot(key.hash) = Slot{key.hash, &m_entries.back()};
-    return m_entries.back().name;
+    return m_entries.back();
 }
 
 void NameTable::Grow()

@@ -27,7 +27,8 @@ const XmlName& EmptyXmlName();
 /// The distinct names of one document. A name lives as long as the table and never moves.
 ///
 /// Names are found by the form they arrive in: the units the parser delivers, or namespace and local name as wide text. The same name
-/// arriving in both forms gets two entries, so equal names need not have equal addresses.
+/// arriving in both forms gets two entries, so equal names need not have equal addresses. Documents repeat themselves: the name that
+/// followed last time is tried before the search.
 class NameTable {
 public:
     NameTable();
@@ -49,23 +50,27 @@ private:
     struct Entry {
         Entry(const Key& key, XmlName entryName);
 
-        const std::string keyBytes;
+        bool Is(const Utf16Unit* qualifiedName) const noexcept;
+
+        const std::string keyBytes; // of the parser's form: with the final NUL unit
         const KeyForm form;
         const XmlName name;
+        Entry* follower = nullptr; // the parser's name that came after this one the last time
     };
     struct Slot {
         std::uint64_t hash;
-        const Entry* entry; // null marks a free slot
+        Entry* entry; // null marks a free slot
     };
 
     Key MakeKey(const void* bytes, std::size_t size, KeyForm form) const noexcept;
-    const XmlName* Find(const Key& key) const noexcept;
-    const XmlName& Insert(const Key& key, XmlName name);
+    Entry* Find(const Key& key) const noexcept;
+    Entry& Insert(const Key& key, XmlName name);
     void Grow();
     Slot& FreeSlot(std::uint64_t hash) noexcept;
 
     std::deque<Entry> m_entries;
     std::vector<Slot> m_slots; // open addressing; the size is a power of two, at most half of it in use
+    Entry* m_previous = nullptr; // the last one that came from the parser
     std::wstring m_wideKey; // reused
 };
 

@@ -25,45 +25,42 @@ inline wchar_t ToWide(Utf16Unit unit) noexcept
     return static_cast<wchar_t>(unit);
 }
 
+/// Units that are widened in one go, on the stack.
+constexpr std::size_t UTF16_BLOCK_LENGTH = 256;
+
 /// Replaces the wide text by the units.
 inline void AssignUtf16(std::wstring& text, const Utf16Unit* units, std::size_t length)
 {
-    text.resize(length);
-    std::transform(units, units + length, text.begin(), ToWide);
+    if (length <= UTF16_BLOCK_LENGTH) {
+        wchar_t block[UTF16_BLOCK_LENGTH];
+        std::transform(units, units + length, block, ToWide);
+        text.assign(block, length);
+    } else {
+        text.resize(length);
+        std::transform(units, units + length, text.begin(), ToWide);
+    }
 }
 
-/// Raises the capacity for `extra` more characters, at least twofold once there is text, so that many small pieces stay cheap.
+/// Raises the capacity for `extra` more characters. Once there is text, it at least doubles, so that many small pieces stay cheap.
 inline void ReserveAmortised(std::wstring& text, std::size_t extra)
 {
+    constexpr std::size_t FIRST_STEP = 15;
     const std::size_t total = text.size() + extra;
-    if (total > text.capacity()) {
-        text.reserve(text.empty() ? total : std::max(2 * text.capacity(), total));
+    if (!text.empty() && total > text.capacity()) {
+        text.reserve(std::max({2 * text.capacity(), total, FIRST_STEP}));
     }
 }
 
-/// Appends the units, carriage returns left out.
-inline void AppendUtf16ExcludingCR(std::wstring& text, const Utf16Unit* units, std::size_t length)
+/// Widens the units into `output`, carriage returns left out.
+/// @return the end of what was written.
+inline wchar_t* WidenExcludingCR(wchar_t* output, const Utf16Unit* units, std::size_t length)
 {
     constexpr Utf16Unit CARRIAGE_RETURN = 13;
-    ReserveAmortised(text, length);
-    if (length == 1) {
-        if (*units != CARRIAGE_RETURN) {
-            text.push_back(ToWide(*units));
-        }
-        return;
+    const Utf16Unit* const end = units + length;
+    if (std::count(units, end, CARRIAGE_RETURN) == 0) { // nearly always: the parser normalises line ends
+        return std::transform(units, end, output, ToWide);
     }
-    wchar_t block[256];
-    for (const Utf16Unit* const end = units + length; units != end;) {
-        const Utf16Unit* const stop = units + std::min<std::ptrdiff_t>(end - units, 256);
-        const auto carriageReturns = std::count(units, stop, CARRIAGE_RETURN);
-        if (carriageReturns == 0) {
-            std::transform(units, stop, block, ToWide);
-        } else {
-            std::copy_if(units, stop, block, [](Utf16Unit unit) { return unit != CARRIAGE_RETURN; });
-        }
-        text.append(block, static_cast<std::size_t>(stop - units - carriageReturns));
-        units = stop;
-    }
+    return std::copy_if(units, end, output, [](Utf16Unit unit) { return unit != CARRIAGE_RETURN; });
 }
 
 } // namespace ZrXmlLib16

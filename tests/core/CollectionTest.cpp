@@ -158,17 +158,6 @@ TEST(Collection, ListenersMayLeaveDuringAnEvent)
     EXPECT_EQ("+a0", first.m_events);
 }
 
-TEST(Collection, RemovedItemLivesThroughItsEvents)
-{
-    const CSmartPtr<TestCollection> items = NewCollection();
-    CXmlObjectBase* item = items->AppendItem(NewItem(L"a"))->GetItem();
-    Listener listener;
-    items->AddEventListener(&listener);
-    listener.m_onEvent = [&] { EXPECT_EQ(L"item", item->GetElementName()); };
-    items->Remove(0);
-    EXPECT_EQ("-0:1 0:0 !0", listener.m_events);
-}
-
 TEST(Collection, BadIndexesAndItemsChangeNothing)
 {
     const CSmartPtr<TestCollection> items = NewCollection();

@@ -174,8 +174,8 @@ TEST(ClassFactory, TypeNameAndNamespaceOfAnElement)
 TEST(ClassFactory, keeps_PrefixesOfTheWholeDocument)
 {
     CXmlDocument document;
-    document.LoadXml("<a xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance'><b xmlns:p='urn:1' xsi:type='p:t'/>"
-                     "<c xmlns:p='urn:2'/></a>");
+    document.LoadXml("<a xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance'><b xmlns:p='urn:1' xsi:type='p:t'/><c "
+                     "xmlns:p='urn:2'/></a>");
     EXPECT_EQ(
         L"urn:2", CClassfactoryBase::GetElementTypeNamespaceUri(document.GetDocumentElement()->GetFirstElement()));
 }

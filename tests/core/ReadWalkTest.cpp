@@ -13,7 +13,7 @@ namespace {
 
 struct Case {
     const wchar_t* xml;
-    const char* expected;
+    std::string expected;
 };
 
 const wchar_t xsi[] = L" xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' ";
@@ -34,17 +34,12 @@ TEST(ReadWalk, AttributesOfAClass)
         {L"id='7' colour='red'", "order{qty=5,id=7,colour=red}"},
         {L"colour='blue' id=' 8' xmlns:p='urn:q' p:q='v'", "order{qty=5,id=8,colour=blue,q=v}"},
         {L"id='7' xsi:schemaLocation='a b' xsi:noNamespaceSchemaLocation='c' xsi:type='order'", "order{qty=5,id=7}"},
-        {L"",
-            "Validation: Failed to process the element.\nPath: /order <- Validation: Failed to find the required "
-            "Attribute [id]."},
+        {L"", Unprocessed("/order", "Validation: Failed to find the required Attribute [id].")},
         {L"id='7' x='1'", "Zr: Unexpected Attribute found.\nPath: /order/@x"},
         {L"id='7' q='1'", "Zr: Unexpected Attribute found.\nPath: /order/@q"},
         {L"x='1'", "Zr: Unexpected Attribute found.\nPath: /order/@x"},
-        {L"id='seven'",
-            "Validation: Failed to process the element.\nPath: /order <- InvalidValue: The value [seven] can not be "
-            "converted to a i4"},
-        {L"id='7' colour='pink'",
-            "Validation: Failed to process the element.\nPath: /order <- InvalidValue: Unknown colour [pink]"},
+        {L"id='seven'", Unprocessed("/order", "InvalidValue: The value [seven] can not be converted to a i4")},
+        {L"id='7' colour='pink'", Unprocessed("/order", "InvalidValue: Unknown colour [pink]")},
         {L"id='7' xsi:nil='true'", "Zr: Invalid use of 'nil' attribute in non-nillable element.\nPath: /order"},
         {L"id='7' xsi:nil='false'", "Zr: Invalid use of 'nil' attribute in non-nillable element.\nPath: /order"},
     };
@@ -63,7 +58,7 @@ TEST(ReadWalk, NilObjects)
     struct {
         const wchar_t* nil;
         const wchar_t* content;
-        const char* expected;
+        std::string expected;
     } const cases[] = {
         {L"true", L"", "order{note=note=nil}"},
         {L"TRUE", L"<anything/>", "order{note=note=nil}"},
@@ -100,17 +95,12 @@ TEST(ReadWalk, SimpleContent)
     const TestClass raw = Class(L"n").Value(ItemType_i4, L"", true);
     const TestClass mixed = Class(L"n").Prim(L"a").Opt().Value(ItemType_string);
     EXPECT_EQ("n{#value=42,unit=kg}", Read(number, L"<n unit='kg'>42</n>"));
-    EXPECT_EQ("Validation: Failed to process the element.\nPath: /n <- InvalidValue: The value [] can not be converted "
-              "to a i4",
-        Read(number, L"<n/>"));
-    EXPECT_EQ("Validation: Failed to process the element.\nPath: /n <- InvalidValue: The value [4 ] can not be "
-              "converted to a i4",
-        Read(number, L"<n>4 </n>"));
+    EXPECT_EQ(Unprocessed("/n", "InvalidValue: The value [] can not be converted to a i4"), Read(number, L"<n/>"));
+    EXPECT_EQ(
+        Unprocessed("/n", "InvalidValue: The value [4 ] can not be converted to a i4"), Read(number, L"<n>4 </n>"));
     EXPECT_EQ("n{#value= x }", Read(raw, L"<n> x </n>"));
     EXPECT_EQ("n{a=1,#value=xy}", Read(mixed, L"<n>x<a>1</a>y</n>"));
-    EXPECT_EQ("Zr: Failed read all the elements held within the element [n]. The unexpected element [b] remains un "
-              "processed\nPath: /n",
-        Read(number, L"<n>1<b/></n>"));
+    EXPECT_EQ(LeftOver("/n", "n", "b"), Read(number, L"<n>1<b/></n>"));
 }
 
 TEST(ReadWalk, keeps_PlainExceptionOfTheInnermostLocation)
@@ -128,17 +118,10 @@ TEST(ReadWalk, keeps_PlainExceptionOfTheInnermostLocation)
             "Zr: Failed to process the element.\nPath: /order/item/leaf <- Validation: Failed to find the required "
             "Attribute [id]."},
         {L"<item><leaf id='1'><price>1</price><price>2</price></leaf></item>",
-            "Zr: Failed read all the elements held within the element [leaf]. The unexpected element [price] remains "
-            "un "
-            "processed\nPath: /order/item/leaf"},
+            LeftOver("/order/item/leaf", "leaf", "price")},
         {L"<item/><item/><item/>",
-            "Validation: Failed to process the element.\nPath: /order <- Validation: The Maximum number of [item] "
-            "elements allowed in "
-            "this collection is 2"},
-        {L"<item/><other/>",
-            "Zr: Failed read all the elements held within the element [order]. The unexpected element [other] remains "
-            "un "
-            "processed\nPath: /order"},
+            Unprocessed("/order", "Validation: The Maximum number of [item] elements allowed in this collection is 2")},
+        {L"<item/><other/>", LeftOver("/order", "order", "other")},
     };
     for (const Case& row : cases)
         EXPECT_EQ(row.expected, Read(type, (std::wstring(L"<order>") + row.xml + L"</order>").c_str()));
@@ -158,16 +141,14 @@ TEST(ReadWalk, FailingAccessors)
     struct {
         const wchar_t* property;
         bool read;
-        const char* failure;
+        std::string failure;
     } const cases[] = {
         {L"qty", false, "Zr: Failed to set the property value.\nPath: /order/qty <- InvalidState: boom"},
         {L"id", false, "Zr: Failed to set the property value.\nPath: /order/@id <- InvalidState: boom"},
         {L"leaf", false, "Zr: Failed to set the property value.\nPath: /order/leaf <- InvalidState: boom"},
         {L"item", true,
-            "Validation: Failed to process the element.\nPath: /order <- Validation: Failed to get the property value "
-            "for [item]. <- "
-            "InvalidState: boom"},
-        {L"#value", false, "Validation: Failed to process the element.\nPath: /order <- InvalidState: boom"},
+            Unprocessed("/order", "Validation: Failed to get the property value for [item]. <- InvalidState: boom")},
+        {L"#value", false, Unprocessed("/order", "InvalidState: boom")},
     };
     for (const auto& row : cases) {
         TestObject order(type);

@@ -109,9 +109,8 @@ TEST(SerializationContext, IndentIsWhitespace)
 
 TEST(SerializationContext, TheTwoElementTolerancesExcludeEachOther)
 {
-    const std::string start =
-        "InvalidState: The parser can only ignore additional elements, or ignore the fact that some required ones "
-        "are missing, you can not ignore both\n";
+    const std::string start = "InvalidState: The parser can only ignore additional elements, or ignore the fact that "
+                              "some required ones are missing, you can not ignore both\n";
     Context context;
     context.SetIgnoreMissingMandatoryElements(true);
     context.SetIgnoreMissingMandatoryElements(true);

@@ -19,10 +19,8 @@ protected:
 };
 
 const char notice[] =
-    "\n-----------------Version Mismatch-----------------\n"
-    "Velloc XML 2018 - Version Mismatch Error\n"
-    "Please ensure your generated code is the same version as this library (Velloc Runtime: v16.1, Generator: "
-    "v16.0).\n";
+    "\n-----------------Version Mismatch-----------------\nVelloc XML 2018 - Version Mismatch Error\nPlease ensure "
+    "your generated code is the same version as this library (Velloc Runtime: v16.1, Generator: v16.0).\n";
 
 } // namespace
 

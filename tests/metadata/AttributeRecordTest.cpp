@@ -45,9 +45,8 @@ TEST(AttributeRecord, RequiredAttributesNeedAValue)
         EXPECT_EQ(failedAttributes + "Zr: Invalid Type 0 to convert to string", Write(order));
         order[L"a"].SetNil();
         EXPECT_EQ(0U, Write(order).find(failedAttributes));
-        EXPECT_EQ("Validation: Failed to process the element.\nPath: /order <- Validation: Failed to find the required "
-                  "Attribute [a].",
-            Read(type, L"<order/>"));
+        EXPECT_EQ(
+            Unprocessed("/order", "Validation: Failed to find the required Attribute [a]."), Read(type, L"<order/>"));
     }
     TestObject colour(Class(L"order").EnumAttr(L"a"));
     colour[L"a"].SetI4(77);
@@ -105,9 +104,8 @@ TEST(AttributeRecord, WildcardPropertyMustBeAnAttributeCollection)
     order.m_onAccess = [&](const std::wstring&, bool) {
         order[L"any"].SetXmlCollection(new TestCollection(L"", L"", 0, -1, nullptr));
     };
-    EXPECT_EQ("Validation: Failed to process the element.\nPath: /order <- Zr: Serialization Data Error : The "
-              "collection should be a "
-              "CAttributeCol, it was not!",
+    EXPECT_EQ(
+        Unprocessed("/order", "Zr: Serialization Data Error : The collection should be a CAttributeCol, it was not!"),
         FailureOf([&] { order.FromXml("<order a='1'/>"); }));
 }
 
@@ -120,8 +118,28 @@ TEST(AttributeRecord, MoreRecordsThanFitABitmap)
         type.Attr(name.c_str()).Required();
         xml += i == 100 ? L"" : L" " + name + L"='x'";
     }
-    EXPECT_EQ("Validation: Failed to process the element.\nPath: /order <- Validation: Failed to find the required "
-              "Attribute [a100].",
+    EXPECT_EQ(Unprocessed("/order", "Validation: Failed to find the required Attribute [a100]."),
         Read(type, (xml + L"/>").c_str()));
     EXPECT_EQ("order{a0=x", Read(type, (xml + L" a100=''/>").c_str()).substr(0, 10));
+}
+
+TEST(AttributeCol, KeepsOneValuePerName)
+{
+    const CSmartPtr<CAttributeCol> attributes(new CAttributeCol(L"", L"##other", L"urn:t"));
+    attributes->Add(L"urn:o", L"1", L"a");
+    attributes->Add(L"urn:o", L"2", L"b");
+    attributes->Add(L"urn:p", L"3", L"a");
+    EXPECT_EQ(L"4", attributes->Add(L"urn:o", L"4", L"a")->GetValue());
+    EXPECT_EQ(3, attributes->GetCount());
+    EXPECT_EQ(attributes->Item(0), attributes->Find(L"a", L"urn:o"));
+    EXPECT_EQ(nullptr, attributes->Find(L"a", L""));
+    EXPECT_EQ(L"urn:t", attributes->GetTargetNamespace());
+    EXPECT_EQ("InvalidParam", FailureOf([&] { attributes->Add(L"urn:o", L"1", L""); }).substr(0, 12));
+    EXPECT_EQ("InvalidNamespace", FailureOf([&] { attributes->Add(L"urn:t", L"1", L"a"); }).substr(0, 16));
+    EXPECT_EQ("InvalidParam: Index 3 is out of range, use 0 - 3", FailureOf([&] { attributes->Item(3); }));
+    attributes->Remove(0);
+    EXPECT_EQ(L"b", attributes->Item(0)->GetName());
+    EXPECT_EQ("InvalidParam: Index -1 is out of range, use 0 - 2", FailureOf([&] { attributes->Remove(-1); }));
+    attributes->Clear();
+    EXPECT_EQ(0, attributes->GetCount());
 }

@@ -103,8 +103,7 @@ TEST(InlineGroup, FailuresInsideNameTheParentElement)
     TestObject order(type);
     order.Add(L"group")->Add(L"innermost");
     EXPECT_EQ("Validation: Failed to convert the element [order] to XML <- Validation: Failed to convert the element "
-              "[group] to XML <- "
-              "Validation: Failed to convert the element [innermost] to XML <- InvalidParam: The Property [a] is "
-              "mandatory, it may not be NULL",
+              "[group] to XML <- Validation: Failed to convert the element [innermost] to XML <- InvalidParam: The "
+              "Property [a] is mandatory, it may not be NULL",
         Write(order));
 }

@@ -17,7 +17,48 @@ template <class Base, class... Records> constexpr bool DeriveFrom()
     return (std::is_base_of<Base, Records>::value && ...);
 }
 
+/// A record that never takes anything.
+class RefusingRecord : public CElementInfo {
+public:
+    RefusingRecord()
+        : CElementInfo(L"refused", L"", 0)
+    {
+    }
+    bool ElementToXml(const CSerializationContext&, const CXmlGeneratedClass*, CXmlWriter*) const override
+    {
+        return false;
+    }
+    bool ElementFromXml(const CSerializationContext&, CXmlGeneratedClass*, CXmlElement*, CXmlElement**, const wchar_t*,
+        XmlElementType) override
+    {
+        return false;
+    }
+};
+
+class RefusingObject : public TestObject {
+public:
+    RefusingObject()
+        : TestObject(Class(L"order").Prim(L"a").Opt())
+    {
+    }
+
+protected:
+    CElementInfo** GetClassElementInfo() const override { return m_records; }
+
+private:
+    mutable RefusingRecord m_record;
+    mutable CElementInfo* m_records[2] = {&m_record, nullptr};
+};
+
 } // namespace
+
+TEST(Record, keeps_SilentStopAtARecordThatRefuses)
+{
+    RefusingObject object;
+    EXPECT_EQ("", FailureOf([&] { object.FromXml("<order><a>1</a><b/></order>"); }));
+    EXPECT_EQ(L"order{}", DescribeObject(object));
+    EXPECT_EQ("<order/>", Write(object));
+}
 
 TEST(Record, ClassTree)
 {

@@ -56,14 +56,9 @@ TEST(StringBuffer, EveryWayOfAppendingCrossesBlockBorders)
 
 TEST(StringBuffer, BlocksHoldTheConfiguredNumberOfCharacters)
 {
-    const struct {
-        unsigned long n;
-        std::size_t blockSize;
-    } cases[] = {{0, 1}, {1, 1}, {2, 1}, {3, 2}, {4096, 4095}};
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.n);
-        CStringBuffer buffer(row.n);
-        const std::wstring block = Pattern(row.blockSize);
+    const auto expectBlockSize = [](CStringBuffer&& buffer, std::size_t blockSize) {
+        SCOPED_TRACE(blockSize);
+        const std::wstring block = Pattern(blockSize);
         buffer.Append(block);
         const wchar_t* const first = buffer.GetText();
         EXPECT_EQ(first, buffer.GetText());
@@ -72,7 +67,12 @@ TEST(StringBuffer, BlocksHoldTheConfiguredNumberOfCharacters)
         EXPECT_NE(first, joined);
         EXPECT_EQ(block + L'x', joined);
         EXPECT_EQ(joined, buffer.GetText());
-    }
+    };
+    expectBlockSize(CStringBuffer(), 4095);
+    expectBlockSize(CStringBuffer(0), 1);
+    expectBlockSize(CStringBuffer(1), 1);
+    expectBlockSize(CStringBuffer(2), 1);
+    expectBlockSize(CStringBuffer(100), 99);
 }
 
 TEST(StringBuffer, EmptyKeepsASingleBlock)
@@ -81,6 +81,7 @@ TEST(StringBuffer, EmptyKeepsASingleBlock)
     buffer.Append(L"first");
     const wchar_t* const block = buffer.GetText();
     buffer.Empty();
+    const std::wstring taker(4095, L'?'); // would get the memory of a freed block
     EXPECT_EQ(0u, buffer.GetLength());
     EXPECT_STREQ(L"", buffer.GetText());
     buffer.Append(L"2");

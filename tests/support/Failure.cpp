@@ -43,6 +43,17 @@ std::string FailureOf(const std::function<void()>& action)
     return chain;
 }
 
+std::string Unprocessed(const std::string& path, const std::string& inner)
+{
+    return "Validation: Failed to process the element.\nPath: " + path + " <- " + inner;
+}
+
+std::string LeftOver(const std::string& path, const std::string& parent, const std::string& child)
+{
+    return "Zr: Failed read all the elements held within the element [" + parent + "]. The unexpected element [" + child
+        + "] remains un processed\nPath: " + path;
+}
+
 std::string Read(const TestClass& type, const wchar_t* xml, const CSerializationContext& context)
 {
     const CSmartPtr<TestObject> object = type.Create();

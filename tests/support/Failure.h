@@ -13,6 +13,11 @@ namespace TestSupport {
 /// message". Types are written without "CZr" and "Exception"; the base class is "Zr". Empty when nothing is thrown.
 std::string FailureOf(const std::function<void()>& action);
 
+/// The texts of FailureOf that recur: the wrapper that names the element of a class, and the report of a child left
+/// over.
+std::string Unprocessed(const std::string& path, const std::string& inner);
+std::string LeftOver(const std::string& path, const std::string& parent, const std::string& child);
+
 /// Reads the text into a new object: its description, or the failure.
 std::string Read(const TestClass& type, const wchar_t* xml,
     const ZrXmlLib16::CSerializationContext& context = ZrXmlLib16::CSerializationContext::m_defaultContext);

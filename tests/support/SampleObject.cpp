@@ -109,9 +109,12 @@ TestClass SampleClass()
     static const TestClass sample = [] {
         const TestClass leaf = Class(L"sampleLeaf").Prim(L"text").Attr(L"id", ItemType_i4).Required();
         const TestClass note = Class(L"sampleNote").Nil().Value(ItemType_string).EnumAttr(L"colour");
-        const TestClass pseudo = Class(L"samplePseudo").Pseudo().Prim(L"inner", ItemType_i4).Attr(L"innerId");
-        const TestClass group = Class(L"sampleGroup").Group().Choice().Prim(L"either").Prim(L"or");
+        // What is written inline sees the attributes of the whole element.
+        const TestClass pseudo =
+            Class(L"samplePseudo").Pseudo().AnyAttributes().Prim(L"inner", ItemType_i4).Attr(L"innerId");
+        const TestClass group = Class(L"sampleGroup").Group().AnyAttributes().Choice().Prim(L"either").Prim(L"or");
         return TestClass(Class(L"sample")
+                             .AnyAttributes()
                              .Cls(L"values", ValuesClass())
                              .Cls(L"sequence", GroupClass(L"sequence", leaf))
                              .Cls(L"all", GroupClass(L"all", leaf).All())

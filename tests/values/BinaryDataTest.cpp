@@ -3,7 +3,7 @@
 #include "ZrXmlLib16/Formatting.h"
 #include "ZrXmlLib16/ZrInvalidValueException.h"
 #include "support/TestText.h"
-#include "values/BinaryMessages.h"
+#include "values/BinaryDataHolder.h"
 
 #include <gtest/gtest.h>
 
@@ -239,9 +239,16 @@ TEST(BinaryData, Base64TextIsDecodedIntoTheValue)
     EXPECT_EQ(L"Zm9vYmE=", Bytes("fooba").GetAsBase64());
 }
 
-TEST(BinaryData, MessagesTakeTheirArguments)
+TEST(BinaryData, ASharedHolderIsNeitherChangedNorDetached)
 {
-    using namespace ZrXmlLib16;
-    EXPECT_EQ(L"Failed to append. [RefCount=2]", FormatString(Message::APPEND_TO_SHARED_DATA, 2));
-    EXPECT_EQ(L"Failed to release data. [RefCount=1]", FormatString(Message::RELEASE_OF_SHARED_DATA, 1));
+    const unsigned char octets[] = {1, 2};
+    CBinaryData::CDataHolder* const holder = CBinaryData::CDataHolder::Copy(octets, 2);
+    holder->AddRef();
+    EXPECT_EQ(
+        L"Failed to append. [RefCount=2]", TestSupport::MessageOf<CZrException>([&] { holder->Append(octets, 1); }));
+    EXPECT_EQ(
+        L"Failed to release data. [RefCount=1]", TestSupport::MessageOf<CZrException>([&] { holder->Release(true); }));
+    EXPECT_EQ(2u, holder->GetLength());
+    holder->Release(false);
+    holder->Release(false);
 }
