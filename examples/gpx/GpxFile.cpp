@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "GpxFile.h"
+
+#include "ZrXmlLib16/AttributeCol.h"
+#include "ZrXmlLib16/Encoder.h"
+#include "ZrXmlLib16/XmlDocument.h"
+#include "ZrXmlLib16/XmlElement.h"
+#include "ZrXmlLib16/ZrException.h"
+
+#include <chrono>
+#include <filesystem>
+
+namespace Demo {
+
+using ZrXmlLib16::CSerializationContext;
+using ZrXmlLib16::CXmlElement;
+using ZrXmlLib16::CZrException;
+
+namespace {
+
+constexpr wchar_t INSTANCE_NAMESPACE[] = L"http://www.w3.org/2001/XMLSchema-instance";
+constexpr wchar_t SCHEMA_LOCATION[] = L"http://www.topografix.com/GPX/1/1 http://www.topografix.com/GPX/1/1/gpx.xsd";
+
+class CStopwatch {
+public:
+    double GetSeconds() const
+    {
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - m_start).count();
+    }
+
+private:
+    std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
+};
+
+/// Reading takes any root element, because the object takes the name that it is read under.
+void RequireGpxRoot(const CXmlElement& root)
+{
+    if (root.GetLocalName() != L"gpx" || root.GetNamespaceURI() != Gpx::NAMESPACE) {
+        throw CZrException(L"This is not a GPX 1.1 document: the root element is [" + root.GetLocalName()
+            + L"] in the namespace [" + root.GetNamespaceURI() + L"].");
+    }
+}
+
+CXmlElement* NextInDocument(CXmlElement* element)
+{
+    if (CXmlElement* child = element->GetFirstElement()) {
+        return child;
+    }
+    while (element && !element->GetNextSiblingElement()) {
+        element = element->GetParent();
+    }
+    return element ? element->GetNextSiblingElement() : nullptr;
+}
+
+int CountExtensions(CXmlElement* root)
+{
+    int count = 0;
+    for (CXmlElement* element = root; element; element = NextInDocument(element)) {
+        if (element->GetLocalName() == L"extensions" && element->GetNamespaceURI() == Gpx::NAMESPACE) {
+            ++count;
+        }
+    }
+    return count;
+}
+
+} // namespace
+
+ReadResult ReadGpxFile(const std::wstring& fileName)
+{
+    const CStopwatch stopwatch;
+    ReadResult result{};
+    result.gpx = new Gpx::CGpx;
+    CSerializationContext context;
+    ZrXmlLib16::CXmlDocument document(context);
+    document.Load(fileName.c_str());
+    CXmlElement* root = document.GetDocumentElement();
+    if (!root) {
+        throw CZrException(L"The document has no root element.");
+    }
+    RequireGpxRoot(*root);
+    try {
+        result.gpx->FromXmlElement(root, context);
+    } catch (const CZrException& exception) {
+        result.deviation = exception.GetFullMessage();
+        result.extensions = CountExtensions(root);
+        context.SetIgnoreUnknownElements(true);
+        context.SetIgnoreUnknownAttributes(true);
+        result.gpx->FromXmlElement(root, context);
+    }
+    result.cost = {stopwatch.GetSeconds(), document.GetInputSize()};
+    return result;
+}
+
+Cost WriteGpxFile(const Gpx::CGpx& gpx, const std::wstring& fileName)
+{
+    CSerializationContext context;
+    context.SetWriteTypeAttribute(false);
+    context.SetDefaultNamespaceURI(Gpx::NAMESPACE);
+    context.GetNamespaceAliases().Add(L"xsi", INSTANCE_NAMESPACE);
+    context.GetAdditionalRootAttributes()->Add(INSTANCE_NAMESPACE, SCHEMA_LOCATION, L"schemaLocation");
+    const CStopwatch stopwatch;
+    gpx.ToXmlFile(fileName.c_str(), true, true, ZrXmlLib16::Encoding_UTF8, ZrXmlLib16::EOL_LF, context);
+    const double seconds = stopwatch.GetSeconds();
+    return {seconds, std::filesystem::file_size(ZrXmlLib16::CEncoder::UnicodeToUtf8(fileName))};
+}
+
+} // namespace Demo

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+// Reads a GPX file into objects, changes them, writes them, and reads them back.
+#include "Difference.h"
+#include "GpxFile.h"
+#include "Mistakes.h"
+#include "SampleWalk.h"
+#include "Summary.h"
+#include "ZrXmlLib16/Encoder.h"
+#include "ZrXmlLib16/ZrException.h"
+
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+
+namespace {
+
+using Demo::Cost;
+using ZrXmlLib16::CEncoder;
+
+constexpr char USAGE[] = "Usage: gpx_demo [FILE [OUTPUT]]\n"
+                         "Reads the GPX 1.1 file FILE, gzip-compressed or not, and writes a changed copy to OUTPUT.\n"
+                         "Without FILE it makes a sample first. Files that are not named lie beside the program.\n";
+
+void Print(const std::wstring& text)
+{
+    std::fputs(CEncoder::UnicodeToUtf8(text).c_str(), stdout);
+}
+
+void PrintReport(const char* title, const std::wstring& report)
+{
+    std::printf("\n%s\n", title);
+    std::wstring indented = L"  | ";
+    for (const wchar_t character : report) {
+        indented += character;
+        if (character == L'\n') {
+            indented += L"  | ";
+        }
+    }
+    Print(indented + L"\n");
+}
+
+void PrintCost(const char* action, const std::string& fileName, const Cost& cost)
+{
+    constexpr double MEGABYTE = 1e6;
+    std::printf("%s %s\n  %lu bytes of XML in %.1f ms, %.1f MB/s\n", action, fileName.c_str(), cost.bytes,
+        cost.seconds * 1000.0, static_cast<double>(cost.bytes) / MEGABYTE / cost.seconds);
+}
+
+std::string BesideProgram(const char* fileName)
+{
+    return (std::filesystem::read_symlink("/proc/self/exe").parent_path() / fileName).string();
+}
+
+std::string MakeSampleFile()
+{
+    const std::string fileName = BesideProgram("sample.gpx");
+    std::ofstream file(fileName, std::ios::binary);
+    file << Demo::MakeSampleWalk();
+    file.close();
+    if (!file) {
+        throw std::runtime_error("cannot write " + fileName);
+    }
+    return fileName;
+}
+
+/// @throws CZrException with the name of the file.
+Demo::ReadResult Read(const std::string& fileName)
+{
+    const std::wstring wideName = CEncoder::Utf8ToUnicode(fileName);
+    try {
+        return Demo::ReadGpxFile(wideName);
+    } catch (const ZrXmlLib16::CZrException& exception) {
+        throw ZrXmlLib16::CZrException(L"cannot read " + wideName, exception);
+    }
+}
+
+/// @throws CZrException with the name of the file.
+Cost Write(const Gpx::CGpx& gpx, const std::string& fileName)
+{
+    const std::wstring wideName = CEncoder::Utf8ToUnicode(fileName);
+    try {
+        return Demo::WriteGpxFile(gpx, wideName);
+    } catch (const ZrXmlLib16::CZrException& exception) {
+        throw ZrXmlLib16::CZrException(L"cannot write " + wideName, exception);
+    }
+}
+
+void Change(Gpx::CGpx& gpx)
+{
+    Gpx::CWptType& waypoint = gpx.GetWpt().Add();
+    waypoint.SetLat(ZrXmlLib16::CDecimal(L"47.0600"));
+    waypoint.SetLon(ZrXmlLib16::CDecimal(L"11.4150"));
+    waypoint.SetName(L"Added by gpx_demo <\u00e4\u00f6\u00fc & \u20ac>");
+    ZrXmlLib16::CDateTime noon(2026, 5, 16, 12, 0, 0, 125);
+    noon.SetTimeZone(0);
+    waypoint.SetTime(noon);
+    waypoint.SetFix(Gpx::FixType_3d);
+    std::printf("\nChanged: appended a waypoint");
+    if (gpx.GetTrk().GetCount() > 0) {
+        Gpx::CTrkType& track = gpx.GetTrk().GetAt(0);
+        track.SetName(track.GetName().value_or(L"Track") + L" (renamed)");
+        std::printf(", renamed the first track");
+    }
+    std::printf("\n\n");
+}
+
+/// @return whether reading the file gives objects equal to the given ones.
+bool CheckCopy(Gpx::CGpx& gpx, const std::string& fileName)
+{
+    const Demo::ReadResult copy = Read(fileName);
+    PrintCost("Read again", fileName, copy.cost);
+    if (!copy.deviation.empty()) {
+        PrintReport("The copy breaks a rule:", copy.deviation);
+        return false;
+    }
+    const std::wstring difference = Demo::FindDifference(gpx, *copy.gpx);
+    if (!difference.empty()) {
+        Print(L"  The objects differ, first at " + difference + L"\n");
+        return false;
+    }
+    std::printf("  The second reading gives equal objects.\n");
+    Gpx::CWptType& waypoint = copy.gpx->GetWpt().GetAt(copy.gpx->GetWpt().GetCount() - 1);
+    waypoint.SetEle(ZrXmlLib16::CDecimal(L"0.001"));
+    Print(L"  After one change to the copy they differ, first at " + Demo::FindDifference(gpx, *copy.gpx) + L"\n");
+    return true;
+}
+
+int Run(const std::string& input, const std::string& output)
+{
+    const Demo::ReadResult original = Read(input);
+    PrintCost("Read", input, original.cost);
+    Print(Demo::Summarise(*original.gpx));
+    if (!original.deviation.empty()) {
+        std::printf("\nParts of the file do not fit the classes and were ignored (extensions elements: %d).\n",
+            original.extensions);
+        PrintReport("The first thing that was ignored:", original.deviation);
+    }
+    Change(*original.gpx);
+    PrintCost("Wrote", output, Write(*original.gpx, output));
+    const bool equal = CheckCopy(*original.gpx, output);
+    PrintReport("A mistake on writing, latitude 91:", Demo::WriteImpossibleLatitude());
+    PrintReport("A mistake on reading, <elle> for <ele>:", Demo::ReadMisspeltElement());
+    return equal ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc > 3 || (argc == 2 && std::string(argv[1]) == "--help")) {
+        std::fputs(USAGE, argc > 3 ? stderr : stdout);
+        return argc > 3 ? 2 : 0;
+    }
+    try {
+        return Run(argc > 1 ? argv[1] : MakeSampleFile(), argc > 2 ? argv[2] : BesideProgram("changed.gpx"));
+    } catch (const ZrXmlLib16::CZrException& exception) {
+        std::fprintf(stderr, "gpx_demo: %s\n", CEncoder::UnicodeToUtf8(exception.GetFullMessage()).c_str());
+    } catch (const std::exception& exception) {
+        std::fprintf(stderr, "gpx_demo: %s\n", exception.what());
+    }
+    return 1;
+}
