@@ -67,6 +67,7 @@ constexpr wchar_t TOO_FEW_ITEMS[] = L"The Minimum number of [%ls] elements allow
 constexpr wchar_t INDEX_OUT_OF_RANGE[] = L"Index %d is out of range, use 0 - %d";
 constexpr wchar_t ITEM_IS_NULL[] = L"An item of a collection may not be NULL";
 constexpr wchar_t ITEM_NOT_IN_COLLECTION[] = L"The item is not held by this collection";
+constexpr wchar_t CHANGED_BY_LISTENER[] = L"A listener changed the collection before the announced change";
 constexpr wchar_t NO_ITEM_FACTORY[] = L"The collection does not know how to create its items";
 /// element name
 constexpr wchar_t NO_SUBSTITUTION[] = L"Failed to find a suitable substitution element for [%ls].";

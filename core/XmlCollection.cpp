@@ -2,6 +2,7 @@
 #include "ZrXmlLib16/XmlCollection.h"
 
 #include "ZrXmlLib16/ZrInvalidParamException.h"
+#include "ZrXmlLib16/ZrInvalidStateException.h"
 #include "core/CollectionIndex.h"
 #include "core/CoreMessages.h"
 
@@ -36,6 +37,7 @@ CXmlCollection::CXmlCollection(const wchar_t* elementName, const wchar_t* namesp
     , m_first(nullptr)
     , m_last(nullptr)
     , m_count(0)
+    , m_changes(0)
     , m_cachedNode(nullptr)
     , m_cachedIndex(0)
 {
@@ -98,19 +100,30 @@ CXmlCollection::CNode* CXmlCollection::Insert(CXmlObjectBase* item, CNode* befor
     }
     // The node holds the item before anybody is told, so that a listener's own reference cannot be the last one.
     std::unique_ptr<CNode> created(new CNode(item));
+    const unsigned long changes = m_changes;
     FireOnCollectionAdd(item);
+    RequireUnchanged(changes);
     CNode* node = created.release();
     node->m_next = before;
     node->m_previous = before ? before->m_previous : m_last;
     (node->m_previous ? node->m_previous->m_next : m_first) = node;
     (before ? before->m_previous : m_last) = node;
     ++m_count;
+    ++m_changes;
     if (before) {
         m_cachedNode = nullptr;
     }
     FireOnCollectionAddComplete(item);
     FireOnCollectionChange();
     return node;
+}
+
+// A listener that is told of a change to come must not change the collection itself: the place of the change would be gone.
+void CXmlCollection::RequireUnchanged(unsigned long changes) const
+{
+    if (m_changes != changes) {
+        throw CZrInvalidStateException(Message::CHANGED_BY_LISTENER);
+    }
 }
 
 void CXmlCollection::Remove(int index)
@@ -133,10 +146,13 @@ void CXmlCollection::RemoveNode(CNode* node)
 
 void CXmlCollection::RemoveAt(CNode* node, int index)
 {
+    const unsigned long changes = m_changes;
     FireOnCollectionRemove(index);
+    RequireUnchanged(changes);
     (node->m_previous ? node->m_previous->m_next : m_first) = node->m_next;
     (node->m_next ? node->m_next->m_previous : m_last) = node->m_previous;
     --m_count;
+    ++m_changes;
     m_cachedNode = nullptr;
     // The reference is dropped last, so that listeners still see the item.
     const CSmartPtr<CXmlObjectBase> item = node->m_item;
@@ -189,6 +205,7 @@ void CXmlCollection::Clear()
     m_first = nullptr;
     m_last = nullptr;
     m_count = 0;
+    ++m_changes;
     m_cachedNode = nullptr;
     FireOnCollectionRemoveComplete(-1);
     FireOnCollectionChange();

@@ -14,6 +14,11 @@ class CXmlElement;
 class NodePool;
 struct XmlName;
 
+/// Deletes a name that belongs to a single node and leaves alone one that the nodes of a document share.
+struct XmlNameRelease {
+    void operator()(const XmlName* name) const noexcept;
+};
+
 /// An attribute of an element of a CXmlDocument. Its element owns it.
 class ZRXML_API CXmlAttribute {
 public:
@@ -48,8 +53,7 @@ private:
     static void operator delete(void* node, NodePool& pool);
 
     CXmlElement* m_owner;
-    std::unique_ptr<const XmlName> m_ownName; // null when the document holds the name
-    const XmlName* m_name;
+    std::unique_ptr<const XmlName, XmlNameRelease> m_name;
     std::wstring m_value;
 };
 

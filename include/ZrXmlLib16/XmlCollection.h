@@ -13,7 +13,8 @@ namespace ZrXmlLib16 {
 ///
 /// Every insertion announces BeforeAdd, AfterAdd and CollectionChanged with the item; every removal announces BeforeRemove,
 /// AfterRemove and CollectionChanged with the index. Arguments are checked before anything is announced. Neither element names nor
-/// the maximum count are checked on adding. Going through the items by ascending or descending index costs one step each.
+/// the maximum count are checked on adding. A listener that changes the collection before an announced change makes the change fail
+/// with CZrInvalidStateException. Going through the items by ascending or descending index costs one step each.
 class ZRXML_API CXmlCollection : public CXmlCollectionBase {
 public:
     /// One place of the list; owned by the collection and valid until its item is removed.
@@ -71,6 +72,7 @@ protected:
 private:
     CNode* Insert(CXmlObjectBase* item, CNode* before);
     void RemoveAt(CNode* node, int index);
+    void RequireUnchanged(unsigned long changes) const;
     CNode* RequireNode(const CXmlObjectBase* item) const;
     CXmlElement* ReadElements(CXmlElement* cursor, const CSerializationContext& context);
     CXmlElement* ReadInlineItems(CXmlElement* parent, CXmlElement* cursor, const CSerializationContext& context);
@@ -79,6 +81,7 @@ private:
     CNode* m_first;
     CNode* m_last;
     int m_count;
+    unsigned long m_changes;
     // The place of the last access by index; a null node when there is none.
     mutable CNode* m_cachedNode;
     mutable int m_cachedIndex;

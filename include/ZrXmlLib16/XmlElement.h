@@ -3,6 +3,7 @@
 #define ZRXMLLIB16_XMLELEMENT_H
 
 #include "ZrXmlLib16/Export.h"
+#include "ZrXmlLib16/XmlAttribute.h"
 
 #include <cstddef>
 #include <memory>
@@ -11,11 +12,8 @@
 
 namespace ZrXmlLib16 {
 
-class CXmlAttribute;
 class CXmlDocument;
 class DocumentStorage;
-class NodePool;
-struct XmlName;
 
 /// An element of a CXmlDocument: name, attributes, children, and all character data directly inside it as one text.
 ///
@@ -70,13 +68,14 @@ private:
     friend class CXmlDocument;
     friend class CExpatReader;
 
-    CXmlElement(CXmlDocument* document, CXmlElement* parent, DocumentStorage* storage);
+    CXmlElement(CXmlDocument* document, CXmlElement* parent, const XmlName* name);
     static void* operator new(std::size_t size, NodePool& pool);
     static void operator delete(void* node, NodePool& pool);
 
     CXmlElement* AppendChild(std::unique_ptr<CXmlElement> child);
     void AppendAttribute(std::unique_ptr<CXmlAttribute> attribute);
     void AddParsedAttribute(const XmlName& name, const unsigned short* value);
+    DocumentStorage* GetStorage() const;
     void SetName(const std::wstring& namespaceUri, const std::wstring& localName);
     bool HasSameQName(const CXmlElement& sibling) const;
 
@@ -87,10 +86,8 @@ private:
     CXmlElement* m_lastChild;
     std::vector<CXmlAttribute*> m_attributes;
     std::wstring m_text;
-    const XmlName* m_name;
-    std::unique_ptr<const XmlName> m_ownName; // null when the document holds the name
+    std::unique_ptr<const XmlName, XmlNameRelease> m_name;
     CXmlElement* m_previousSibling;
-    DocumentStorage* m_storage; // of the document that created the element; null for an element built by hand
 };
 
 } // namespace ZrXmlLib16

@@ -136,6 +136,8 @@ TEST_F(Cursor, SequencesAcceptExactlyTheirLanguage)
         {"(a[bc]?)d?", "(a[bc]?)?d?", Class(L"r").Cls(L"longer", longer).Prim(L"d").Opt()},
         {"(a[bc]?)*d", "(a[bc]?)*d?", Class(L"r").Cls(L"longer", longer).Col().Prim(L"d")},
         {"(a{1,2}b?)?c", "(a{1,2}b?)?c?", Class(L"r").Cls(L"many", many).Opt().Prim(L"c")},
+        // An item that finds nothing ends the collection, although nothing of it is missing.
+        {"a*b", "a*b?", Class(L"r").Cls(L"option", Group(L"option").Prim(L"a").Opt()).Col().Prim(L"b")},
         // The alternatives of a choice are optional, so one without any is satisfied.
         {"[ab]?c", "[ab]?c?", Class(L"r").Cls(L"g", Group(L"").Choice().Prim(L"a").Prim(L"b")).Prim(L"c")},
     };
