@@ -118,7 +118,8 @@ CXmlCollection::CNode* CXmlCollection::Insert(CXmlObjectBase* item, CNode* befor
     return node;
 }
 
-// A listener that is told of a change to come must not change the collection itself: the place of the change would be gone.
+// A listener that is told of a change to come must not change the collection itself: the place of the change would be
+// gone.
 void CXmlCollection::RequireUnchanged(unsigned long changes) const
 {
     if (m_changes != changes) {

@@ -11,10 +11,11 @@ namespace ZrXmlLib16 {
 
 /// A collection of generated objects, held in a list in collection order and counted by reference.
 ///
-/// Every insertion announces BeforeAdd, AfterAdd and CollectionChanged with the item; every removal announces BeforeRemove,
-/// AfterRemove and CollectionChanged with the index. Arguments are checked before anything is announced. Neither element names nor
-/// the maximum count are checked on adding. A listener that changes the collection before an announced change makes the change fail
-/// with CZrInvalidStateException. Going through the items by ascending or descending index costs one step each.
+/// Every insertion announces BeforeAdd, AfterAdd and CollectionChanged with the item; every removal announces
+/// BeforeRemove, AfterRemove and CollectionChanged with the index. Arguments are checked before anything is announced.
+/// Neither element names nor the maximum count are checked on adding. A listener that changes the collection before an
+/// announced change makes the change fail with CZrInvalidStateException. Going through the items by ascending or
+/// descending index costs one step each.
 class ZRXML_API CXmlCollection : public CXmlCollectionBase {
 public:
     /// One place of the list; owned by the collection and valid until its item is removed.
@@ -37,7 +38,8 @@ public:
 
     CXmlCollection(const wchar_t* elementName, const wchar_t* namespaceUri, int minOccurs, int maxOccurs);
     ~CXmlCollection() override;
-    /// Insertions return the new node and throw CZrInvalidParamException for a null item or an existing item that is not here.
+    /// Insertions return the new node and throw CZrInvalidParamException for a null item or an existing item that is
+    /// not here.
     CNode* AppendItem(CXmlObjectBase* item);
     CNode* PrependItem(CXmlObjectBase* item);
     /// @param index 0 to GetCount()

@@ -158,6 +158,28 @@ TEST(Collection, ListenersMayLeaveDuringAnEvent)
     EXPECT_EQ("+a0", first.m_events);
 }
 
+TEST(Collection, ListenersMayNotTakeThePlaceOfAChange)
+{
+    const std::function<void(TestCollection&)> changes[] = {
+        [](TestCollection& items) { items.PrependItem(NewItem(L"x")); },
+        [](TestCollection& items) { items.Remove(0); }};
+    for (const auto& change : changes) {
+        const CSmartPtr<TestCollection> items = NewCollection();
+        items->AppendItem(NewItem(L"a"));
+        Listener listener;
+        bool done = false;
+        listener.m_onEvent = [&] {
+            if (!done) {
+                done = true;
+                items->Clear();
+            }
+        };
+        items->AddEventListener(&listener);
+        EXPECT_NE("", FailureOf([&] { change(*items); }));
+        EXPECT_EQ(0, items->GetCount());
+    }
+}
+
 TEST(Collection, BadIndexesAndItemsChangeNothing)
 {
     const CSmartPtr<TestCollection> items = NewCollection();
