@@ -3,6 +3,7 @@
 
 #include "ZrXmlLib16/XmlDocument.h"
 #include "ZrXmlLib16/XmlElement.h"
+#include "xml/XmlNamespaces.h"
 
 namespace ZrXmlLib16 {
 
@@ -10,7 +11,7 @@ namespace {
 
 const std::wstring& TypeAttribute(const CXmlElement* element)
 {
-    return element->GetAttribute(L"type", L"http://www.w3.org/2001/XMLSchema-instance");
+    return element->GetAttribute(L"type", SCHEMA_INSTANCE_NAMESPACE_URI);
 }
 
 } // namespace

@@ -16,7 +16,7 @@ constexpr std::size_t HEADER_SIZE = sizeof(NodePool*);
 // A heap node keeps the alignment that operator new promises to any type.
 constexpr std::size_t HEAP_OFFSET = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
 constexpr std::size_t FIRST_SLAB_NODES = 8;
-constexpr std::size_t MAXIMUM_SLAB_NODES = 512;
+constexpr std::size_t MAXIMUM_SLAB_NODES = 256;
 
 static_assert(alignof(CXmlElement) <= HEADER_SIZE && sizeof(CXmlElement) % HEADER_SIZE == 0);
 static_assert(alignof(CXmlAttribute) <= HEADER_SIZE && sizeof(CXmlAttribute) % HEADER_SIZE == 0);
@@ -97,9 +97,17 @@ void NodePool::AddSlab()
     m_unusedEnd = m_unused + size;
 }
 
+void XmlNameRelease::operator()(const XmlName* name) const noexcept
+{
+    if (!name->storage) {
+        delete name;
+    }
+}
+
 DocumentStorage::DocumentStorage()
     : m_elements(*this, sizeof(CXmlElement))
     , m_attributes(*this, sizeof(CXmlAttribute))
+    , m_names(*this)
 {
 }
 

@@ -14,8 +14,8 @@ class DocumentStorage;
 
 /// Memory for nodes of one size: slabs that grow with the number of nodes, freed nodes are used again.
 ///
-/// In front of every node stands the address of its pool, or null when the node came from the heap, so that a plain `delete` finds the
-/// way back.
+/// In front of every node stands the address of its pool, or null when the node came from the heap, so that a plain
+/// `delete` finds the way back.
 class NodePool {
 public:
     NodePool(DocumentStorage& owner, std::size_t nodeSize) noexcept;
@@ -39,8 +39,8 @@ private:
     void* m_freeNodes; // linked through their first word
 };
 
-/// Nodes and names of one document between two clean-ups. Belongs to the document, and after it to the nodes that a caller took out of
-/// the tree and has not deleted yet: these stay valid.
+/// Nodes and names of one document between two clean-ups. Belongs to the document, and after it to the nodes that a
+/// caller took out of the tree and has not deleted yet: these stay valid.
 class DocumentStorage {
 public:
     DocumentStorage();

@@ -62,7 +62,8 @@ CExpatReader::~CExpatReader() = default;
 void CExpatReader::CreateParser()
 {
     m_textBuffer.reset(new wchar_t[TEXT_BUFFER_SIZE]);
-    // kept: required behaviour. Without namespace processing names keep prefix and colon, and declarations are attributes.
+    // kept: required behaviour. Without namespace processing names keep prefix and colon, and declarations are
+    // attributes.
     const bool ignoresNamespaces = m_document.GetSchemaType() == SchemaType_DTD;
     m_parser.reset(ignoresNamespaces ? XML_ParserCreate(nullptr) : XML_ParserCreateNS(nullptr, NAMESPACE_SEPARATOR));
     if (!m_parser) {

@@ -15,8 +15,8 @@ class CXmlDocument;
 
 /// Reads XML text into a document: turns the events of the expat parser into nodes. Serves one parse.
 ///
-/// Character data is collected until the next tag, so that an element gets each run of text in one piece. No exception passes through
-/// the parser: a handler that fails keeps its exception, stops the parser and lets Parse raise it.
+/// Character data is collected until the next tag, so that an element gets each run of text in one piece. No exception
+/// passes through the parser: a handler that fails keeps its exception, stops the parser and lets Parse raise it.
 class CExpatReader {
 public:
     explicit CExpatReader(CXmlDocument& document);

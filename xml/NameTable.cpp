@@ -37,56 +37,59 @@ std::wstring Widen(const Utf16Unit* units, std::size_t length)
     return text;
 }
 
-XmlName SplitName(const Utf16Unit* qualifiedName, std::size_t length)
+XmlName SplitName(const Utf16Unit* qualifiedName, std::size_t length, DocumentStorage& storage)
 {
     const Utf16Unit* const end = qualifiedName + length;
     const Utf16Unit* const separator = std::find(qualifiedName, end, Utf16Unit{L'|'});
     if (separator == end) {
-        return XmlName(std::wstring(), Widen(qualifiedName, length));
+        return XmlName(std::wstring(), Widen(qualifiedName, length), &storage);
     }
     return XmlName(Widen(qualifiedName, static_cast<std::size_t>(separator - qualifiedName)),
-        Widen(separator + 1, static_cast<std::size_t>(end - separator - 1)));
+        Widen(separator + 1, static_cast<std::size_t>(end - separator - 1)), &storage);
 }
 
 } // namespace
 
 // kept: required behaviour. The namespace of declarations counts like the instance namespace, for "nil" too.
-XmlName::XmlName(std::wstring namespaceOfName, std::wstring localPart)
+XmlName::XmlName(std::wstring namespaceOfName, std::wstring localPart, DocumentStorage* nameStorage)
     : namespaceUri(std::move(namespaceOfName))
     , localName(std::move(localPart))
     , isNamespaceAttribute(IsInfrastructureNamespace(namespaceUri) && IsInfrastructureName(localName))
     , isNilAttribute(IsInfrastructureNamespace(namespaceUri) && localName == L"nil")
+    , storage(nameStorage)
 {
-}
-
-const XmlName& EmptyXmlName()
-{
-    static const XmlName name{std::wstring(), std::wstring()};
-    return name;
 }
 
 NameTable::Entry::Entry(const Key& key, XmlName entryName)
-    : keyBytes(key.bytes, key.size)
+    : keyUnits(key.size / sizeof(Utf16Unit))
     , form(key.form)
     , name(std::move(entryName))
 {
+    std::memcpy(keyUnits.data(), key.bytes, key.size);
 }
 
-NameTable::NameTable() = default;
+NameTable::NameTable(DocumentStorage& owner)
+    : m_owner(owner)
+{
+}
 
+// Stops at the first difference: what lies behind a shorter name must not be read.
 bool NameTable::Entry::Is(const Utf16Unit* qualifiedName) const noexcept
 {
-    const char* bytes = keyBytes.data();
-    for (;; ++qualifiedName, bytes += sizeof(Utf16Unit)) {
-        Utf16Unit unit = 0;
-        std::memcpy(&unit, bytes, sizeof(unit));
-        if (unit != *qualifiedName) {
+    const Utf16Unit* own = keyUnits.data();
+    const Utf16Unit* const end = own + keyUnits.size();
+    for (; end - own >= 4; own += 4, qualifiedName += 4) {
+        if (own[0] != qualifiedName[0] || own[1] != qualifiedName[1] || own[2] != qualifiedName[2]
+            || own[3] != qualifiedName[3]) {
             return false;
         }
-        if (unit == 0) {
-            return true;
+    }
+    for (; own != end; ++own, ++qualifiedName) {
+        if (*own != *qualifiedName) {
+            return false;
         }
     }
+    return true;
 }
 
 const XmlName& NameTable::Intern(const Utf16Unit* qualifiedName)
@@ -95,10 +98,16 @@ const XmlName& NameTable::Intern(const Utf16Unit* qualifiedName)
         m_previous = m_previous->follower;
         return m_previous->name;
     }
+    return Search(qualifiedName);
+}
+
+// Apart from Intern, so that the usual way through that stays short.
+const XmlName& NameTable::Search(const Utf16Unit* qualifiedName)
+{
     const std::size_t length = Utf16Length(qualifiedName);
     const Key key = MakeKey(qualifiedName, (length + 1) * sizeof(Utf16Unit), KeyForm::Parser);
     Entry* const found = Find(key);
-    Entry& entry = found ? *found : Insert(key, SplitName(qualifiedName, length));
+    Entry& entry = found ? *found : Insert(key, SplitName(qualifiedName, length, m_owner));
     if (m_previous) {
         m_previous->follower = &entry;
     }
@@ -112,7 +121,7 @@ const XmlName& NameTable::Intern(const std::wstring& namespaceUri, const std::ws
     m_wideKey.append(namespaceUri).append(localName);
     const Key key = MakeKey(m_wideKey.data(), m_wideKey.size() * sizeof(wchar_t), KeyForm::Wide);
     const Entry* const found = Find(key);
-    return found ? found->name : Insert(key, XmlName(namespaceUri, localName)).name;
+    return found ? found->name : Insert(key, XmlName(namespaceUri, localName, &m_owner)).name;
 }
 
 NameTable::Key NameTable::MakeKey(const void* bytes, std::size_t size, KeyForm form) const noexcept
@@ -145,8 +154,9 @@ NameTable::Entry* NameTable::Find(const Key& key) const noexcept
         if (!slot.entry) {
             return nullptr;
         }
-        if (slot.hash == key.hash && slot.entry->form == key.form && slot.entry->keyBytes.size() == key.size
-            && std::memcmp(slot.entry->keyBytes.data(), key.bytes, key.size) == 0) {
+        if (slot.hash == key.hash && slot.entry->form == key.form
+            && slot.entry->keyUnits.size() * sizeof(Utf16Unit) == key.size
+            && std::memcmp(slot.entry->keyUnits.data(), key.bytes, key.size) == 0) {
             return slot.entry;
         }
     }

@@ -8,7 +8,8 @@
 
 namespace ZrXmlLib16 {
 
-/// Character of the parser: one UTF-16 unit. Wide text holds one unit per character, so surrogate pairs stay two characters.
+/// Character of the parser: one UTF-16 unit. Wide text holds one unit per character, so surrogate pairs stay two
+/// characters.
 using Utf16Unit = unsigned short;
 
 inline std::size_t Utf16Length(const Utf16Unit* text) noexcept
@@ -41,7 +42,8 @@ inline void AssignUtf16(std::wstring& text, const Utf16Unit* units, std::size_t 
     }
 }
 
-/// Raises the capacity for `extra` more characters. Once there is text, it at least doubles, so that many small pieces stay cheap.
+/// Raises the capacity for `extra` more characters. Once there is text, it at least doubles, so that many small pieces
+/// stay cheap.
 inline void ReserveAmortised(std::wstring& text, std::size_t extra)
 {
     constexpr std::size_t FIRST_STEP = 15;
@@ -57,6 +59,13 @@ inline wchar_t* WidenExcludingCR(wchar_t* output, const Utf16Unit* units, std::s
 {
     constexpr Utf16Unit CARRIAGE_RETURN = 13;
     const Utf16Unit* const end = units + length;
+    if (length < 16) { // too short for the two vectorised passes
+        for (; units != end; ++units) {
+            *output = ToWide(*units);
+            output += *units != CARRIAGE_RETURN;
+        }
+        return output;
+    }
     if (std::count(units, end, CARRIAGE_RETURN) == 0) { // nearly always: the parser normalises line ends
         return std::transform(units, end, output, ToWide);
     }

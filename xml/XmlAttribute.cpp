@@ -10,8 +10,7 @@ namespace ZrXmlLib16 {
 CXmlAttribute::CXmlAttribute(
     CXmlElement* owner, const std::wstring& localName, const std::wstring& value, const std::wstring& namespaceUri)
     : m_owner(owner)
-    , m_ownName(std::make_unique<const XmlName>(namespaceUri, localName))
-    , m_name(m_ownName.get())
+    , m_name(new XmlName(namespaceUri, localName, nullptr))
     , m_value(value)
 {
 }

@@ -34,7 +34,8 @@ CXmlDocument::CXmlDocument(bool (*elementEnd)(CXmlElement*))
 }
 
 CXmlDocument::CXmlDocument(bool (*elementEnd)(CXmlElement*), const CSerializationContext& context)
-    : m_inputSize(0)
+    : m_input(nullptr)
+    , m_inputSize(0)
     , m_schemaType(SchemaType_XSD)
     , m_elementEnd(elementEnd)
     , m_context(&context)
@@ -71,6 +72,7 @@ void CXmlDocument::DestroyTree() noexcept
 void CXmlDocument::DestroyInput() noexcept
 {
     m_inputBuffer.reset();
+    m_input = nullptr;
     m_inputSize = 0;
 }
 
@@ -120,10 +122,7 @@ CXmlElement* CXmlDocument::OpenChildElement(const XmlName& name)
 
 std::unique_ptr<CXmlElement> CXmlDocument::NewElement(CXmlElement* parent, const XmlName& name)
 {
-    DocumentStorage& storage = GetStorage();
-    std::unique_ptr<CXmlElement> element(new (storage.GetElementPool()) CXmlElement(this, parent, &storage));
-    element->m_name = &name;
-    return element;
+    return std::unique_ptr<CXmlElement>(new (name.storage->GetElementPool()) CXmlElement(this, parent, &name));
 }
 
 CXmlElement& CXmlDocument::RequireOpenElement() const
@@ -143,8 +142,8 @@ CXmlElement& CXmlDocument::RequireOpenElement(CXmlElement* element) const
     return *element;
 }
 
-void CXmlDocument::AddElementAttribute(CXmlElement* element, const std::wstring& localName, const std::wstring& value,
-    const std::wstring& namespaceUri)
+void CXmlDocument::AddElementAttribute(
+    CXmlElement* element, const std::wstring& localName, const std::wstring& value, const std::wstring& namespaceUri)
 {
     RequireOpenElement(element).AddAttribute(localName, value, namespaceUri);
 }
@@ -206,7 +205,7 @@ CXmlElement* CXmlDocument::GetCurrentElement() const
 
 const unsigned char* CXmlDocument::GetInputBuffer() const
 {
-    return m_inputBuffer.get();
+    return m_input;
 }
 
 unsigned long CXmlDocument::GetInputSize() const

@@ -20,7 +20,8 @@ namespace ZrXmlLib16 {
 
 namespace {
 
-// Gives an array out of its owner to a function that may replace it, and takes back what is there afterwards, whatever happens.
+// Gives an array out of its owner to a function that may replace it, and takes back what is there afterwards, whatever
+// happens.
 class LentArray {
 public:
     explicit LentArray(std::unique_ptr<unsigned char[]>& owner) noexcept
@@ -41,14 +42,30 @@ private:
 
 } // namespace
 
+/// Drops the input at the end of a load.
+class CXmlDocument::InputScope {
+public:
+    explicit InputScope(CXmlDocument& document) noexcept
+        : m_document(document)
+    {
+    }
+    ~InputScope() { m_document.DestroyInput(); }
+    InputScope(const InputScope&) = delete;
+    InputScope& operator=(const InputScope&) = delete;
+
+private:
+    CXmlDocument& m_document;
+};
+
 void CXmlDocument::LoadXml(const char* text)
 {
     Cleanup();
     if (!text || !*text) {
         throw CZrException(Message::XML_STRING_EMPTY);
     }
-    AllocateInput(std::strlen(text));
-    std::memcpy(m_inputBuffer.get(), text, m_inputSize);
+    const InputScope scope(*this);
+    m_input = reinterpret_cast<const unsigned char*>(text);
+    m_inputSize = std::strlen(text);
     ParseText();
 }
 
@@ -58,6 +75,7 @@ void CXmlDocument::LoadXml(const wchar_t* text)
     if (!text || !*text) {
         throw CZrException(Message::XML_STRING_EMPTY);
     }
+    const InputScope scope(*this);
     const std::size_t length = std::wcslen(text);
     AllocateInput(2 * length + 2);
     unsigned char* output = m_inputBuffer.get();
@@ -77,14 +95,16 @@ void CXmlDocument::LoadXmlStream(const unsigned char* bytes, unsigned long lengt
     if (!bytes || length == 0) {
         throw CZrException(Message::XML_STREAM_EMPTY);
     }
-    AllocateInput(length);
-    std::memcpy(m_inputBuffer.get(), bytes, length);
+    const InputScope scope(*this);
+    m_input = bytes;
+    m_inputSize = length;
     Parse();
 }
 
 void CXmlDocument::Load(const wchar_t* fileName)
 {
     Cleanup();
+    const InputScope scope(*this);
     ReadFile(TextOrEmpty(fileName));
     Parse();
 }
@@ -111,19 +131,34 @@ void CXmlDocument::ReadFile(const wchar_t* fileName)
 void CXmlDocument::AllocateInput(unsigned long size)
 {
     m_inputBuffer.reset(new unsigned char[size]);
+    m_input = m_inputBuffer.get();
     m_inputSize = size;
 }
 
 void CXmlDocument::Parse()
 {
-    Decompress();
+    if (MayBeCompressed()) {
+        Decompress();
+    }
     ParseText();
+}
+
+// Text begins with "<" or a byte-order mark, compressed data never does: most input needs no copy of its own.
+bool CXmlDocument::MayBeCompressed() const
+{
+    const unsigned char first = *m_input;
+    return first != '<' && first != 0xEF && first != 0xFE && first != 0xFF;
 }
 
 void CXmlDocument::Decompress()
 {
-    LentArray input(m_inputBuffer);
-    CZrZip::Decompress(input.GetAddress(), &m_inputSize);
+    if (!m_inputBuffer) {
+        const unsigned char* const bytes = m_input;
+        AllocateInput(m_inputSize);
+        std::memcpy(m_inputBuffer.get(), bytes, m_inputSize);
+    }
+    CZrZip::Decompress(LentArray(m_inputBuffer).GetAddress(), &m_inputSize);
+    m_input = m_inputBuffer.get();
 }
 
 void CXmlDocument::ParseText()

@@ -10,19 +10,18 @@
 namespace ZrXmlLib16 {
 
 CXmlElement::CXmlElement(CXmlDocument* document, CXmlElement* parent)
-    : CXmlElement(document, parent, nullptr)
+    : CXmlElement(document, parent, new XmlName(std::wstring(), std::wstring(), nullptr))
 {
 }
 
-CXmlElement::CXmlElement(CXmlDocument* document, CXmlElement* parent, DocumentStorage* storage)
+CXmlElement::CXmlElement(CXmlDocument* document, CXmlElement* parent, const XmlName* name)
     : m_document(document)
     , m_parent(parent)
     , m_nextSibling(nullptr)
     , m_firstChild(nullptr)
     , m_lastChild(nullptr)
-    , m_name(&EmptyXmlName())
+    , m_name(name)
     , m_previousSibling(nullptr)
-    , m_storage(storage)
 {
 }
 
@@ -31,7 +30,8 @@ CXmlElement::~CXmlElement()
     for (CXmlAttribute* attribute : m_attributes) {
         delete attribute;
     }
-    // Every element gives its children to the list that is being worked off before it is deleted, so that no depth costs stack.
+    // Every element gives its children to the list that is being worked off before it is deleted, so that no depth
+    // costs stack.
     CXmlElement* pending = std::exchange(m_firstChild, nullptr);
     while (pending) {
         CXmlElement* const current = pending;
@@ -66,9 +66,13 @@ void CXmlElement::operator delete(void* node, NodePool&)
 
 CXmlElement* CXmlElement::CreateNewChildElement()
 {
-    return AppendChild(std::unique_ptr<CXmlElement>(m_storage
-            ? new (m_storage->GetElementPool()) CXmlElement(m_document, this, m_storage)
-            : new CXmlElement(m_document, this)));
+    DocumentStorage* const storage = GetStorage();
+    if (!storage) {
+        return AppendChild(std::unique_ptr<CXmlElement>(new CXmlElement(m_document, this)));
+    }
+    const XmlName& noName = storage->GetNames().Intern(std::wstring(), std::wstring());
+    return AppendChild(
+        std::unique_ptr<CXmlElement>(new (storage->GetElementPool()) CXmlElement(m_document, this, &noName)));
 }
 
 CXmlElement* CXmlElement::AppendChild(std::unique_ptr<CXmlElement> child)
@@ -95,19 +99,20 @@ CXmlElement* CXmlElement::RemoveLastChildElement()
 void CXmlElement::AddAttribute(
     const std::wstring& localName, const std::wstring& value, const std::wstring& namespaceUri)
 {
-    if (!m_storage) {
+    DocumentStorage* const storage = GetStorage();
+    if (!storage) {
         AppendAttribute(std::make_unique<CXmlAttribute>(this, localName, value, namespaceUri));
         return;
     }
-    const XmlName& name = m_storage->GetNames().Intern(namespaceUri, localName);
-    std::unique_ptr<CXmlAttribute> attribute(new (m_storage->GetAttributePool()) CXmlAttribute(this, name));
+    const XmlName& name = storage->GetNames().Intern(namespaceUri, localName);
+    std::unique_ptr<CXmlAttribute> attribute(new (storage->GetAttributePool()) CXmlAttribute(this, name));
     attribute->m_value = value;
     AppendAttribute(std::move(attribute));
 }
 
 void CXmlElement::AddParsedAttribute(const XmlName& name, const Utf16Unit* value)
 {
-    std::unique_ptr<CXmlAttribute> attribute(new (m_storage->GetAttributePool()) CXmlAttribute(this, name));
+    std::unique_ptr<CXmlAttribute> attribute(new (name.storage->GetAttributePool()) CXmlAttribute(this, name));
     AssignUtf16(attribute->m_value, value, Utf16Length(value));
     AppendAttribute(std::move(attribute));
 }
@@ -131,6 +136,12 @@ void CXmlElement::AppendText(const std::wstring& text)
     AppendText(text.data(), text.size());
 }
 
+// Null for an element that was built by hand: its name is its own.
+DocumentStorage* CXmlElement::GetStorage() const
+{
+    return m_name->storage;
+}
+
 void CXmlElement::SetElementName(const std::wstring& name)
 {
     SetName(m_name->namespaceUri, name);
@@ -143,12 +154,9 @@ void CXmlElement::SetNamespace(const std::wstring& namespaceUri)
 
 void CXmlElement::SetName(const std::wstring& namespaceUri, const std::wstring& localName)
 {
-    if (m_storage) {
-        m_name = &m_storage->GetNames().Intern(namespaceUri, localName);
-    } else {
-        m_ownName = std::make_unique<const XmlName>(namespaceUri, localName);
-        m_name = m_ownName.get();
-    }
+    DocumentStorage* const storage = GetStorage();
+    m_name.reset(
+        storage ? &storage->GetNames().Intern(namespaceUri, localName) : new XmlName(namespaceUri, localName, nullptr));
 }
 
 CXmlElement* CXmlElement::GetFirstElement() const
@@ -188,7 +196,8 @@ const std::wstring& CXmlElement::GetAttribute(const std::wstring& localName, con
             return attribute->GetValue();
         }
     }
-    return EmptyXmlName().localName;
+    static const std::wstring empty;
+    return empty;
 }
 
 std::wstring CXmlElement::GetQName() const
@@ -204,7 +213,7 @@ std::wstring CXmlElement::GetQName() const
 
 bool CXmlElement::HasSameQName(const CXmlElement& sibling) const
 {
-    if (m_name == sibling.m_name) {
+    if (m_name.get() == sibling.m_name.get()) {
         return true;
     }
     return GetLocalName() == sibling.GetLocalName()

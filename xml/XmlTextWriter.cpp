@@ -242,8 +242,7 @@ void CXmlTextWriter::WriteAttributeString(
     FlushWhenFull();
 }
 
-void CXmlTextWriter::WriteAttributeType(
-    const std::wstring& typeName, const std::wstring& typeNamespace, ItemType type)
+void CXmlTextWriter::WriteAttributeType(const std::wstring& typeName, const std::wstring& typeNamespace, ItemType type)
 {
     RequireOpenStartTag();
     const InstanceAttributeNames& names = GetInstanceAttributeNames();

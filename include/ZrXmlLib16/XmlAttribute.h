@@ -24,8 +24,8 @@ class ZRXML_API CXmlAttribute {
 public:
     /// @param owner not owned; null for an attribute of its own, which is printed as if it belonged to no document.
     /// Does not enter the attribute into the owner's list: see CXmlElement::AddAttribute.
-    CXmlAttribute(CXmlElement* owner, const std::wstring& localName, const std::wstring& value,
-        const std::wstring& namespaceUri);
+    CXmlAttribute(
+        CXmlElement* owner, const std::wstring& localName, const std::wstring& value, const std::wstring& namespaceUri);
     virtual ~CXmlAttribute();
     CXmlAttribute(const CXmlAttribute&) = delete;
     CXmlAttribute& operator=(const CXmlAttribute&) = delete;
@@ -36,8 +36,8 @@ public:
     const std::wstring& GetValue() const;
     /// The owner's path, "/", the prefix and ":" when there is one, "@" and the local name: /order/AA:@code.
     std::wstring GetXPath() const;
-    /// Whether the attribute belongs to the XML infrastructure (xmlns, type, schemaLocation, noNamespaceSchemaLocation in the instance
-    /// namespace or the namespace of declarations).
+    /// Whether the attribute belongs to the XML infrastructure (xmlns, type, schemaLocation, noNamespaceSchemaLocation
+    /// in the instance namespace or the namespace of declarations).
     bool IsNamespaceAttribute() const;
     /// Whether the attribute is "nil" in one of these two namespaces.
     bool IsNilAttribute() const;

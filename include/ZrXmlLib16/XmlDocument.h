@@ -19,37 +19,39 @@ struct XmlName;
 
 /// A document read into a small tree: element names and namespaces, attributes and the text of each element.
 ///
-/// Comments, processing instructions and the document type leave no trace; prefixes are kept in one map for the whole document, where a
-/// later declaration of a prefix replaces an earlier one. The document owns its elements; they live until the next load, Cleanup or the
-/// destructor. After a failed load the document keeps what was built so far. A document belongs to one thread at a time; two documents
-/// share nothing.
+/// Comments, processing instructions and the document type leave no trace; prefixes are kept in one map for the whole
+/// document, where a later declaration of a prefix replaces an earlier one. The document owns its elements; they live
+/// until the next load, Cleanup or the destructor. After a failed load the document keeps what was built so far. A
+/// document belongs to one thread at a time; two documents share nothing.
 class ZRXML_API CXmlDocument {
 public:
     CXmlDocument();
     /// @param context not owned; outlives the document.
     explicit CXmlDocument(const CSerializationContext& context);
-    /// @param elementEnd called for every element when its end has been read; when it returns true the element is taken out of the
-    /// tree and destroyed. The root is kept in any case. Null is none. What the function throws leaves the load.
+    /// @param elementEnd called for every element when its end has been read; when it returns true the element is taken
+    /// out of the tree and destroyed. The root is kept in any case. Null is none. What the function throws leaves the
+    /// load. The function must not load or clean up the document.
     explicit CXmlDocument(bool (*elementEnd)(CXmlElement*));
     CXmlDocument(bool (*elementEnd)(CXmlElement*), const CSerializationContext& context);
     virtual ~CXmlDocument();
     CXmlDocument(const CXmlDocument&) = delete;
     CXmlDocument& operator=(const CXmlDocument&) = delete;
 
-    /// Destroys the tree, the input and the prefixes.
+    /// Destroys the tree and the prefixes.
     virtual void Cleanup();
-    /// Destroys the tree and the input, and reads the schema type from the context.
+    /// Destroys the tree and reads the schema type from the context.
     void Init();
 
-    /// Reads XML text, which is copied first. Null is empty.
+    /// Reads XML text, which is not needed any more afterwards. Null is empty.
     /// @throws CZrException for empty text, and for text that is not well-formed: description and line.
     void LoadXml(const char* text);
     /// The same for wide text, of which the low 16 bits of every character are taken as UTF-16.
     void LoadXml(const wchar_t* text);
-    /// Reads XML text, compressed (gzip, zlib) or not, which is copied first.
+    /// Reads XML text, compressed (gzip, zlib) or not, which is not needed any more afterwards.
     void LoadXmlStream(const unsigned char* bytes, unsigned long length);
     /// Reads a file as LoadXmlStream does.
-    /// @throws CZrException also when the file cannot be opened, has no length or cannot be read; an empty file cannot be read.
+    /// @throws CZrException also when the file cannot be opened, has no length or cannot be read; an empty file cannot
+    /// be read.
     void Load(const wchar_t* fileName);
 
     /// The root, null when there is none.
@@ -74,7 +76,7 @@ public:
 
     /// The innermost open element, null when none is open.
     CXmlElement* GetCurrentElement() const;
-    /// The bytes of the last load, decompressed; null when there are none.
+    /// The bytes that are being read, decompressed; null outside of a load.
     const unsigned char* GetInputBuffer() const;
     unsigned long GetInputSize() const;
     SchemaType GetSchemaType() const;
@@ -89,7 +91,9 @@ private:
 
     void Parse();
     void ParseText();
+    class InputScope;
     void AllocateInput(unsigned long size);
+    bool MayBeCompressed() const;
     void Decompress();
     void ReadFile(const wchar_t* fileName);
     void DestroyTree() noexcept;
@@ -104,7 +108,8 @@ private:
     std::unique_ptr<CXmlElement> m_documentElement;
     std::vector<CXmlElement*> m_elementStack;
     std::map<std::wstring, std::wstring> m_prefixMap; // prefix -> URI
-    std::unique_ptr<unsigned char[]> m_inputBuffer;
+    std::unique_ptr<unsigned char[]> m_inputBuffer;   // null when the input is the caller's
+    const unsigned char* m_input;
     unsigned long m_inputSize;
     SchemaType m_schemaType;
     bool (*m_elementEnd)(CXmlElement*);

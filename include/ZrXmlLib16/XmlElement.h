@@ -17,13 +17,14 @@ class DocumentStorage;
 
 /// An element of a CXmlDocument: name, attributes, children, and all character data directly inside it as one text.
 ///
-/// An element owns its attributes and children. Trees may be of any depth: nothing here recurses. An element that was taken out of the
-/// tree with RemoveLastChildElement belongs to the caller, who deletes it; it may outlive its document only to be deleted or read, not
-/// for prefixes and paths. A document and its elements belong to one thread at a time.
+/// An element owns its attributes and children. Trees may be of any depth: nothing here recurses. An element that was
+/// taken out of the tree with RemoveLastChildElement belongs to the caller, who deletes it; it may outlive its document
+/// only to be deleted or read, not for prefixes and paths. A document and its elements belong to one thread at a time.
 class ZRXML_API CXmlElement {
 public:
     /// @param document not owned, may be null: such an element knows no prefixes.
-    /// @param parent not owned, null for a root. The parent's list of children does not change: see CreateNewChildElement.
+    /// @param parent not owned, null for a root. The parent's list of children does not change: see
+    /// CreateNewChildElement.
     CXmlElement(CXmlDocument* document, CXmlElement* parent);
     virtual ~CXmlElement();
     CXmlElement(const CXmlElement&) = delete;

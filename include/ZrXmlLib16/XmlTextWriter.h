@@ -12,8 +12,8 @@ class CTextStream;
 
 /// Writes XML 1.0 text to a stream, indented unless told otherwise.
 ///
-/// Characters that XML does not allow pass through. Text appended before an exception stays in the stream. The stream is asked to
-/// flush between operations, whenever it holds more than 4095 characters.
+/// Characters that XML does not allow pass through. Text appended before an exception stays in the stream. The stream
+/// is asked to flush between operations, whenever it holds more than 4095 characters.
 class ZRXML_API CXmlTextWriter : public CXmlWriter {
 public:
     /// @param stream not owned; outlives the writer.
@@ -33,12 +33,13 @@ public:
     /// Writes the text as it is, between line ends, into the open start tag.
     void WriteInlineSchema(const std::wstring& text) override;
     void WriteStartElement(const std::wstring& name, const std::wstring& namespaceUri) override;
-    /// Writes nothing for empty text, and for a default value unless these are written. A value that begins with "<![CDATA[" is not
-    /// escaped. Carriage returns are dropped, line feeds become the line end of the writer.
+    /// Writes nothing for empty text, and for a default value unless these are written. A value that begins with
+    /// "<![CDATA[" is not escaped. Carriage returns are dropped, line feeds become the line end of the writer.
     void WriteString(const std::wstring& value, ItemType type, bool isDefault) override;
     /// @throws CZrInvalidStateException when no element is open.
     void WriteEndElement() override;
-    /// The attribute operations throw CZrException when no start tag is open: none started, or content was written already.
+    /// The attribute operations throw CZrException when no start tag is open: none started, or content was written
+    /// already.
     void WriteAttributeString(
         const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& value, ItemType type) override;
     void WriteAttributeType(const std::wstring& typeName, const std::wstring& typeNamespace, ItemType type) override;
@@ -84,7 +85,7 @@ private:
     EOLType m_eolType;
     bool m_format;
     CTextStream& m_stream;
-    std::wstring m_indentation; // the indent characters repeated, as far as needed up to now
+    std::wstring m_indentation;    // the indent characters repeated, as far as needed up to now
     std::wstring m_qualifiedValue; // reused
 };
 

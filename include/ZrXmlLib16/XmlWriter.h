@@ -20,9 +20,9 @@ namespace ZrXmlLib16 {
 
 /// Receives a document as a sequence of events and writes it in some format.
 ///
-/// Order of calls: Open; SetDefaultNamespace and AddNamespace for the root; one element tree (start, attributes, then text or children,
-/// end); Close. This class keeps what every format needs: the open elements, the scopes of namespace prefixes and the invention of
-/// prefixes. The destructor never calls Close. A writer belongs to one thread at a time.
+/// Order of calls: Open; SetDefaultNamespace and AddNamespace for the root; one element tree (start, attributes, then
+/// text or children, end); Close. This class keeps what every format needs: the open elements, the scopes of namespace
+/// prefixes and the invention of prefixes. The destructor never calls Close. A writer belongs to one thread at a time.
 class ZRXML_API CXmlWriter {
 public:
     /// The namespace of the prefix "xml".
@@ -75,11 +75,11 @@ public:
         CXmlWriterContext* m_parent; // null for the root
         ContextState m_state;
         std::wstring m_defaultNamespace; // of this scope
-        NamespaceMap m_namespaceMap; // of this scope
+        NamespaceMap m_namespaceMap;     // of this scope
         bool m_inherits;
-        CXmlWriterContext* m_scope; // the nearest context that does not inherit
+        CXmlWriterContext* m_scope;                          // the nearest context that does not inherit
         mutable const NamespaceMap::value_type* m_lastFound; // of this scope; saves most searches
-        std::wstring m_prefix; // as written in the start tag
+        std::wstring m_prefix;                               // as written in the start tag
     };
 
     virtual ~CXmlWriter();
@@ -88,8 +88,9 @@ public:
     virtual void Close();
     /// For the root before it starts, for the current element afterwards. Writes nothing by itself.
     virtual void SetDefaultNamespace(const std::wstring& namespaceUri);
-    /// For the root before it starts, for the current element afterwards. Only the root's prefixes get declared; a prefix given to an
-    /// open element has to be declared by the caller. Two URIs with the same prefix make the document invalid.
+    /// For the root before it starts, for the current element afterwards. Only the root's prefixes get declared; a
+    /// prefix given to an open element has to be declared by the caller. Two URIs with the same prefix make the
+    /// document invalid.
     virtual void AddNamespace(const std::wstring& prefix, const std::wstring& namespaceUri);
     virtual void WriteComment(const std::wstring& text) = 0;
     /// @param text the whole processing instruction, delimiters included.
@@ -100,8 +101,7 @@ public:
     virtual void WriteString(const std::wstring& value, ItemType type, bool isDefault) = 0;
     virtual void WriteEndElement() = 0;
     virtual void WriteAttributeString(
-        const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& value, ItemType type)
-        = 0;
+        const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& value, ItemType type) = 0;
     /// Writes xsi:type with the qualified name of a type.
     virtual void WriteAttributeType(const std::wstring& typeName, const std::wstring& typeNamespace, ItemType type) = 0;
     /// Writes xsi:nil="true".
@@ -120,7 +120,8 @@ public:
     static std::wstring NsIntToString(int number);
 
 protected:
-    /// Opens an element inside the current one, or the root with its own copy of the writer's default namespace and prefixes.
+    /// Opens an element inside the current one, or the root with its own copy of the writer's default namespace and
+    /// prefixes.
     CXmlWriterContext& OpenContext(const std::wstring& name, const std::wstring& namespaceUri, unsigned long rootDepth);
     /// The parent becomes the current element. There must be an open one.
     void CloseContext() noexcept;

@@ -44,7 +44,8 @@ TEST(Document, BuilderMakesTheSameTreeAsTheParser)
     EXPECT_EQ(nullptr, built.GetCurrentElement());
 
     CXmlDocument parsed;
-    parsed.LoadXml("<a:order xmlns:a='urn:a' id='7'>x\n" "y<item xmlns:b='urn:b' b:code='c'/>tail</a:order>");
+    parsed.LoadXml("<a:order xmlns:a='urn:a' id='7'>x\n"
+                   "y<item xmlns:b='urn:b' b:code='c'/>tail</a:order>");
     EXPECT_EQ(L"{urn:a}order @id=7 'x\nytail' (item @{urn:b}code=c)", TreeText(parsed.GetDocumentElement()));
     EXPECT_EQ(TreeText(parsed.GetDocumentElement()), TreeText(built.GetDocumentElement()));
 }
@@ -56,7 +57,8 @@ TEST(Document, BuilderRefusesToWorkWithoutAnOpenElement)
     EXPECT_EQ(expected, MessageOf<CZrInvalidStateException>([&] { document.AddChildElement(L"", L"a"); }));
     EXPECT_EQ(expected, MessageOf<CZrInvalidStateException>([&] { document.EndElement(); }));
     EXPECT_EQ(expected, MessageOf<CZrInvalidStateException>([&] { document.AppendTextExcludingCR(nullptr, L"x"); }));
-    EXPECT_EQ(expected, MessageOf<CZrInvalidStateException>([&] { document.AddElementAttribute(nullptr, L"a", L"", L""); }));
+    EXPECT_EQ(
+        expected, MessageOf<CZrInvalidStateException>([&] { document.AddElementAttribute(nullptr, L"a", L"", L""); }));
     document.AddDocElement(L"", L"first");
     document.AddDocElement(L"", L"second");
     EXPECT_EQ(L"second", TreeText(document.GetDocumentElement()));
@@ -121,7 +123,8 @@ TEST(Document, keeps_DeclarationNamespaceForInfrastructureAttributes)
         SCOPED_TRACE(TestSupport::Narrow(row.name));
         const CXmlAttribute alone(nullptr, row.name, L"", row.namespaceUri);
         root->AddAttribute(row.name, L"", row.namespaceUri);
-        for (const CXmlAttribute* attribute : {&alone, static_cast<const CXmlAttribute*>(root->GetAttributes().back())}) {
+        for (const CXmlAttribute* attribute :
+            {&alone, static_cast<const CXmlAttribute*>(root->GetAttributes().back())}) {
             EXPECT_EQ(row.isNamespaceAttribute, attribute->IsNamespaceAttribute());
             EXPECT_EQ(row.isNil, attribute->IsNilAttribute());
         }

@@ -10,7 +10,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <cstring>
 #include <fstream>
 
 using namespace ZrXmlLib16;
@@ -69,8 +68,10 @@ TEST(Loading, RefusesEmptyInput)
     const unsigned char byte = 0;
     EXPECT_EQ(L"XML String is empty!", MessageOf<CZrException>([&] { document.LoadXml(""); }));
     EXPECT_EQ(L"XML String is empty!", MessageOf<CZrException>([&] { document.LoadXml(L""); }));
-    EXPECT_EQ(L"XML String is empty!", MessageOf<CZrException>([&] { document.LoadXml(static_cast<const char*>(nullptr)); }));
-    EXPECT_EQ(L"XML String is empty!", MessageOf<CZrException>([&] { document.LoadXml(static_cast<const wchar_t*>(nullptr)); }));
+    EXPECT_EQ(
+        L"XML String is empty!", MessageOf<CZrException>([&] { document.LoadXml(static_cast<const char*>(nullptr)); }));
+    EXPECT_EQ(L"XML String is empty!",
+        MessageOf<CZrException>([&] { document.LoadXml(static_cast<const wchar_t*>(nullptr)); }));
     EXPECT_EQ(L"XML Stream is empty!", MessageOf<CZrException>([&] { document.LoadXmlStream(&byte, 0); }));
     EXPECT_EQ(L"XML Stream is empty!", MessageOf<CZrException>([&] { document.LoadXmlStream(nullptr, 1); }));
     EXPECT_EQ(nullptr, document.GetDocumentElement());
@@ -96,11 +97,8 @@ TEST(Loading, DecompressesStreams)
         CBinaryData bytes;
         bytes.Append(reinterpret_cast<const unsigned char*>(text.data()), text.size());
         CZrZip::CompressData(bytes, type);
-        CXmlDocument document;
-        document.LoadXmlStream(bytes.GetData(), bytes.GetLength());
-        EXPECT_TRUE(tree == TreeText(document.GetDocumentElement()));
-        EXPECT_EQ(text.size(), document.GetInputSize());
-        EXPECT_EQ(0, std::memcmp(text.data(), document.GetInputBuffer(), text.size()));
+        const std::string compressed(reinterpret_cast<const char*>(bytes.GetData()), bytes.GetLength());
+        EXPECT_TRUE(tree == StreamTree(compressed));
     }
 }
 

@@ -11,7 +11,8 @@ using TestSupport::TreeText;
 
 namespace {
 
-std::wstring ParsedTree(const char* text, const CSerializationContext& context = CSerializationContext::m_defaultContext)
+std::wstring ParsedTree(
+    const char* text, const CSerializationContext& context = CSerializationContext::m_defaultContext)
 {
     CXmlDocument document(context);
     document.LoadXml(text);
@@ -26,7 +27,8 @@ TEST(Parser, TurnsEventsIntoTheTree)
         const char* text;
         const wchar_t* tree;
     } cases[] = {
-        {"<?xml version='1.0'?><!DOCTYPE a [<!ATTLIST a d CDATA 'given'>]><?pi x?><!--c--><a>1<!--c-->2<?pi?>3</a><!--c-->",
+        {"<?xml version='1.0'?><!DOCTYPE a [<!ATTLIST a d CDATA 'given'>]><?pi "
+         "x?><!--c--><a>1<!--c-->2<?pi?>3</a><!--c-->",
             L"a @d=given '123'"},
         {"<p:a xmlns:p='urn:p' p:x='1' y='2'><b xmlns='urn:d' z='3' xml:lang='en'/></p:a>",
             L"{urn:p}a @{urn:p}x=1 @y=2 ({urn:d}b @z=3 @{http://www.w3.org/XML/1998/namespace}lang=en)"},
@@ -55,7 +57,8 @@ TEST(Parser, LongTextArrivesWhole)
     for (int i = 0; i < 5000; ++i) {
         const char letter = static_cast<char>('a' + i % 26);
         text.append(static_cast<std::size_t>(i % 7), letter).append(i % 3 == 0 ? "\r\n" : "&amp;");
-        expected.append(static_cast<std::size_t>(i % 7), static_cast<wchar_t>(letter)).append(i % 3 == 0 ? L"\n" : L"&");
+        expected.append(static_cast<std::size_t>(i % 7), static_cast<wchar_t>(letter))
+            .append(i % 3 == 0 ? L"\n" : L"&");
     }
     text.append(5000, 'x').append("</a>");
     expected.append(5000, L'x');
@@ -105,6 +108,8 @@ TEST(Parser, KeepsWhatWasBuiltBeforeAnError)
     CXmlDocument document;
     EXPECT_THROW(document.LoadXml("<a><b>x</b><c></a>"), CZrException);
     EXPECT_EQ(L"a (b 'x', c)", TreeText(document.GetDocumentElement()));
+    EXPECT_THROW(document.LoadXml("<a>text<b/>tail &"), CZrException);
+    EXPECT_EQ(L"a 'texttail ' (b)", TreeText(document.GetDocumentElement()));
     document.LoadXml("<d><e/></d>");
     EXPECT_EQ(L"d (e)", TreeText(document.GetDocumentElement()));
 }
@@ -159,8 +164,9 @@ TEST(Parser, keeps_TheLow16BitsOfWideText)
     CXmlDocument document;
     document.LoadXml(L"<a>\U0001F600\u20AC</a>");
     EXPECT_EQ(std::wstring({wchar_t{0xF600}, wchar_t{0x20AC}}), document.GetDocumentElement()->GetText());
-    EXPECT_EQ(L"not well-formed (invalid token) at line 1",
-        MessageOf<CZrException>([&] { document.LoadXml(std::wstring({L'<', L'a', L'>', wchar_t{0xD83D}, L'<', L'/', L'a', L'>'}).c_str()); }));
+    EXPECT_EQ(L"not well-formed (invalid token) at line 1", MessageOf<CZrException>([&] {
+        document.LoadXml(std::wstring({L'<', L'a', L'>', wchar_t{0xD83D}, L'<', L'/', L'a', L'>'}).c_str());
+    }));
 }
 
 TEST(Parser, keeps_WideTextThatDeclaresAnEightBitEncodingRefused)

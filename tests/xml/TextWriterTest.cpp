@@ -85,13 +85,15 @@ TEST(TextWriter, FormatsElements)
             L"<?xml version=\"1.0\"?>\n<!DOCTYPE order>\n<order id=\"7\">\n\t<note>first\nsecond</note>\n\t<empty/>\n"
             L"\t<items>\n\t\t<item>1</item>\n<raw/>\n\t</items>\n</order>\n"},
         {true, EOL_CRLF, L"--", Encoding_UTF8,
-            L"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<!DOCTYPE order>\r\n<order id=\"7\">\r\n--<note>first\r\nsecond"
+            L"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<!DOCTYPE order>\r\n<order "
+            L"id=\"7\">\r\n--<note>first\r\nsecond"
             L"</note>\r\n--<empty/>\r\n--<items>\r\n----<item>1</item>\r\n<raw/>\r\n--</items>\r\n</order>\r\n"},
         {false, EOL_LF, L"\t", Encoding_UTF16,
             L"<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n<!DOCTYPE order>\n<order id=\"7\"><note>first\nsecond</note>"
             L"<empty/><items><item>1</item><raw/></items></order>"},
         {true, EOL_LF, nullptr, Encoding_Wide,
-            L"<?xml version=\"1.0\"?>\n<!DOCTYPE order>\n<order id=\"7\">\n<note>first\nsecond</note>\n<empty/>\n<items>\n"
+            L"<?xml version=\"1.0\"?>\n<!DOCTYPE order>\n<order "
+            L"id=\"7\">\n<note>first\nsecond</note>\n<empty/>\n<items>\n"
             L"<item>1</item>\n<raw/>\n</items>\n</order>\n"},
     };
     for (const auto& row : cases) {
@@ -185,14 +187,16 @@ TEST(TextWriter, RefusesCallsInTheWrongOrder)
     WriterTest test;
     const std::wstring attributes = L"Attributes must be added before elements";
     EXPECT_EQ(attributes, MessageOf<CZrException>([&] { test.Attribute(L"a", L"", L""); }));
-    EXPECT_EQ(L"There is no open element to end.", MessageOf<CZrInvalidStateException>([&] { test.writer.WriteEndElement(); }));
+    EXPECT_EQ(L"There is no open element to end.",
+        MessageOf<CZrInvalidStateException>([&] { test.writer.WriteEndElement(); }));
     test.writer.WriteString(L"a<b", ItemType_string, false);
     test.writer.WriteStartElement(L"e", L"urn:e");
     EXPECT_EQ(L"Headed directives must appear before an Element has been added.",
         MessageOf<CZrException>([&] { test.writer.WriteHeaderDirective(L"x"); }));
     test.writer.WriteString(L"t", ItemType_string, false);
     EXPECT_EQ(attributes, MessageOf<CZrException>([&] { test.Attribute(L"a", L"", L""); }));
-    EXPECT_EQ(attributes, MessageOf<CZrException>([&] { test.writer.WriteAttributeType(L"t", L"urn:t", ItemType_none); }));
+    EXPECT_EQ(
+        attributes, MessageOf<CZrException>([&] { test.writer.WriteAttributeType(L"t", L"urn:t", ItemType_none); }));
     EXPECT_EQ(attributes, MessageOf<CZrException>([&] { test.writer.WriteAttributeNil(); }));
     EXPECT_EQ(L"Invalid EOL type.", MessageOf<CZrException>([&] { test.writer.SetEOLType(static_cast<EOLType>(2)); }));
     EXPECT_EQ(EOL_LF, test.writer.GetEOLType());

@@ -21,7 +21,8 @@ inline std::wstring TreeText(const ZrXmlLib16::CXmlElement* element)
     for (; element; element = element->GetNextSiblingElement()) {
         text += NameText(element->GetNamespaceURI(), element->GetLocalName());
         for (const ZrXmlLib16::CXmlAttribute* attribute : element->GetAttributes()) {
-            text += L" @" + NameText(attribute->GetNamespaceURI(), attribute->GetLocalName()) + L"=" + attribute->GetValue();
+            text += L" @" + NameText(attribute->GetNamespaceURI(), attribute->GetLocalName()) + L"="
+                + attribute->GetValue();
         }
         if (!element->GetText().empty()) {
             text += L" '" + element->GetText() + L"'";

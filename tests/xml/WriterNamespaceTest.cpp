@@ -82,7 +82,8 @@ TEST(WriterNamespaces, keeps_SiblingsInventingTheSamePrefix)
 
 TEST(WriterNamespaces, keeps_PrefixesOfAttributesInTheDefaultNamespace)
 {
-    EXPECT_EQ(L"<a xmlns=\"urn:d\" xmlns:AA=\"urn:d\" AA:x=\"1\" AA:y=\"2\" z=\"3\" xmlns:AB=\"urn:e\" AB:w=\"4\"><b/><n/></a>",
+    EXPECT_EQ(L"<a xmlns=\"urn:d\" xmlns:AA=\"urn:d\" AA:x=\"1\" AA:y=\"2\" z=\"3\" xmlns:AB=\"urn:e\" "
+              L"AB:w=\"4\"><b/><n/></a>",
         Written([](CXmlTextWriter& writer) {
             writer.SetDefaultNamespace(L"urn:d");
             writer.WriteStartElement(L"a", L"urn:d");
@@ -98,7 +99,8 @@ TEST(WriterNamespaces, keeps_PrefixesOfAttributesInTheDefaultNamespace)
 
 TEST(WriterNamespaces, keeps_TwoBlanksAfterAnInventedTypePrefix)
 {
-    EXPECT_EQ(L"<a xmlns=\"urn:d\" xmlns:AA=\"urn:t\"  xmlns:AB=\"" + INSTANCE + L"\" AB:type=\"AA:T\"><b AB:type=\"AA:U\"/>"
+    EXPECT_EQ(L"<a xmlns=\"urn:d\" xmlns:AA=\"urn:t\"  xmlns:AB=\"" + INSTANCE
+            + L"\" AB:type=\"AA:T\"><b AB:type=\"AA:U\"/>"
             + L"<c AB:type=\"V\"/><d AB:type=\"W\" AB:nil=\"true\"/></a>",
         Written([](CXmlTextWriter& writer) {
             writer.SetDefaultNamespace(L"urn:d");
@@ -120,30 +122,32 @@ TEST(WriterNamespaces, keeps_TwoBlanksAfterAnInventedTypePrefix)
 
 TEST(WriterNamespaces, ChangesOnAnOpenElementServeItsDescendants)
 {
-    EXPECT_EQ(L"<a xmlns=\"urn:d\"><AA:b xmlns:AA=\"urn:e\"><c/><p:c/></AA:b><b/></a>", Written([](CXmlTextWriter& writer) {
-        writer.SetDefaultNamespace(L"urn:d");
-        writer.WriteStartElement(L"a", L"urn:d");
-        writer.WriteStartElement(L"b", L"urn:e");
-        writer.SetDefaultNamespace(L"urn:f");
-        writer.AddNamespace(L"q", L"urn:e");
-        writer.AddNamespace(L"p", L"urn:g");
-        Empty(writer, L"c", L"urn:f");
-        Empty(writer, L"c", L"urn:g");
-        writer.WriteEndElement();
-        Empty(writer, L"b", L"urn:d");
-        writer.WriteEndElement();
-    }));
+    EXPECT_EQ(
+        L"<a xmlns=\"urn:d\"><AA:b xmlns:AA=\"urn:e\"><c/><p:c/></AA:b><b/></a>", Written([](CXmlTextWriter& writer) {
+            writer.SetDefaultNamespace(L"urn:d");
+            writer.WriteStartElement(L"a", L"urn:d");
+            writer.WriteStartElement(L"b", L"urn:e");
+            writer.SetDefaultNamespace(L"urn:f");
+            writer.AddNamespace(L"q", L"urn:e");
+            writer.AddNamespace(L"p", L"urn:g");
+            Empty(writer, L"c", L"urn:f");
+            Empty(writer, L"c", L"urn:g");
+            writer.WriteEndElement();
+            Empty(writer, L"b", L"urn:d");
+            writer.WriteEndElement();
+        }));
 }
 
 TEST(WriterNamespaces, ASecondRootStartsFromTheWriterAgain)
 {
-    EXPECT_EQ(L"<p:a xmlns:p=\"urn:1\" xmlns:AA=\"urn:2\" AA:x=\"\"/><p:a xmlns:p=\"urn:1\"/>", Written([](CXmlTextWriter& writer) {
-        writer.AddNamespace(L"p", L"urn:1");
-        writer.WriteStartElement(L"a", L"urn:1");
-        writer.WriteAttributeString(L"x", L"urn:2", L"", ItemType_string);
-        writer.WriteEndElement();
-        Empty(writer, L"a", L"urn:1");
-    }));
+    EXPECT_EQ(L"<p:a xmlns:p=\"urn:1\" xmlns:AA=\"urn:2\" AA:x=\"\"/><p:a xmlns:p=\"urn:1\"/>",
+        Written([](CXmlTextWriter& writer) {
+            writer.AddNamespace(L"p", L"urn:1");
+            writer.WriteStartElement(L"a", L"urn:1");
+            writer.WriteAttributeString(L"x", L"urn:2", L"", ItemType_string);
+            writer.WriteEndElement();
+            Empty(writer, L"a", L"urn:1");
+        }));
 }
 
 TEST(WriterNamespaces, keeps_InventedPrefixesPastTheAlphabet)
@@ -179,5 +183,6 @@ TEST(WriterNamespaces, OutputReadsBack)
     });
     CXmlDocument document;
     document.LoadXml(text.c_str());
-    EXPECT_EQ(L"{urn:d}a @{urn:e}x=\"<&>'\n  ({urn:f}b ']]>\n<&\"\xD83D\xDE00')", TestSupport::TreeText(document.GetDocumentElement()));
+    EXPECT_EQ(L"{urn:d}a @{urn:e}x=\"<&>'\n  ({urn:f}b ']]>\n<&\"\xD83D\xDE00')",
+        TestSupport::TreeText(document.GetDocumentElement()));
 }
