@@ -2,6 +2,7 @@
 #include "ZrXmlLib16/Formatting.h"
 
 #include "ZrXmlLib16/Encoder.h"
+#include "core/CLocale.h"
 #include "core/FormatLength.h"
 #include "values/DigitText.h"
 
@@ -54,6 +55,7 @@ std::wstring FormatV(const wchar_t* format, va_list arguments)
     va_copy(copy, arguments);
     const std::size_t bound = MeasureFormat(format, copy);
     va_end(copy);
+    const CLocaleGuard locale;
     // One retry only: the C library gives the same answer for a short buffer and for a conversion that can never
     // succeed.
     std::wstring text;

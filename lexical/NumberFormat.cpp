@@ -3,7 +3,7 @@
 
 #include "ZrXmlLib16/Formatting.h"
 #include "ZrXmlLib16/ZrInvalidParamException.h"
-#include "lexical/CLocale.h"
+#include "core/CLocale.h"
 #include "lexical/LexicalMessages.h"
 
 #include <cstdio>

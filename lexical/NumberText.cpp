@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "lexical/NumberText.h"
 
-#include "lexical/CLocale.h"
+#include "core/CLocale.h"
 
 #include <charconv>
 #include <climits>

@@ -52,6 +52,11 @@ CXmlElement* NextInDocument(CXmlElement* element)
     return element ? element->GetNextSiblingElement() : nullptr;
 }
 
+unsigned long FileSize(const std::wstring& fileName)
+{
+    return std::filesystem::file_size(ZrXmlLib16::CEncoder::UnicodeToUtf8(fileName));
+}
+
 int CountExtensions(CXmlElement* root)
 {
     int count = 0;
@@ -87,7 +92,7 @@ ReadResult ReadGpxFile(const std::wstring& fileName)
         context.SetIgnoreUnknownAttributes(true);
         result.gpx->FromXmlElement(root, context);
     }
-    result.cost = {stopwatch.GetSeconds(), document.GetInputSize()};
+    result.cost = {stopwatch.GetSeconds(), FileSize(fileName)};
     return result;
 }
 
@@ -101,7 +106,7 @@ Cost WriteGpxFile(const Gpx::CGpx& gpx, const std::wstring& fileName)
     const CStopwatch stopwatch;
     gpx.ToXmlFile(fileName.c_str(), true, true, ZrXmlLib16::Encoding_UTF8, ZrXmlLib16::EOL_LF, context);
     const double seconds = stopwatch.GetSeconds();
-    return {seconds, std::filesystem::file_size(ZrXmlLib16::CEncoder::UnicodeToUtf8(fileName))};
+    return {seconds, FileSize(fileName)};
 }
 
 } // namespace Demo

@@ -12,7 +12,7 @@ namespace Demo {
 /// What reading or writing a file cost.
 struct Cost {
     double seconds;
-    unsigned long bytes; // of the XML text, decompressed
+    unsigned long bytes; // of the file
 };
 
 struct ReadResult {

@@ -44,7 +44,7 @@ void PrintReport(const char* title, const std::wstring& report)
 void PrintCost(const char* action, const std::string& fileName, const Cost& cost)
 {
     constexpr double MEGABYTE = 1e6;
-    std::printf("%s %s\n  %lu bytes of XML in %.1f ms, %.1f MB/s\n", action, fileName.c_str(), cost.bytes,
+    std::printf("%s %s\n  %lu bytes in %.1f ms, %.1f MB/s\n", action, fileName.c_str(), cost.bytes,
         cost.seconds * 1000.0, static_cast<double>(cost.bytes) / MEGABYTE / cost.seconds);
 }
 

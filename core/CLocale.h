@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#ifndef LEXICAL_CLOCALE_H
-#define LEXICAL_CLOCALE_H
+#ifndef CORE_CLOCALE_H
+#define CORE_CLOCALE_H
 
 #include <locale.h>
 

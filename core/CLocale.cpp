@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "lexical/CLocale.h"
+#include "core/CLocale.h"
 
 namespace ZrXmlLib16 {
 
