@@ -33,6 +33,9 @@ inline constexpr wchar_t InvalidPatternForValue[] = L"%ls\nInvalid Value for %ls
 inline constexpr wchar_t InvalidPattern[] = L"Invalid Regular Expression: %ls Error: '%ls'";
 inline constexpr wchar_t MatchLimitExceeded[] = L"match limit exceeded";
 
+/// name of the kind, as CDateTime::DateType has it
+inline constexpr wchar_t WrongDateKind[] = L"Dates added to this collection must be of type %ls";
+
 } // namespace ZrXmlLib16::LexicalMessages
 
 #endif

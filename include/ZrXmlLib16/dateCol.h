@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZRXMLLIB16_DATECOL_H
+#define ZRXMLLIB16_DATECOL_H
+
+#include "ZrXmlLib16/Export.h"
+#include "ZrXmlLib16/datetimeBaseCol.h"
+
+#include <string>
+
+namespace ZrXmlLib16 {
+
+/// A repeated element of xs:date values.
+class ZRXML_API CdateCol : public CdatetimeBaseCol {
+public:
+    /// The arguments of CXmlTypeCollection after the item type.
+    CdateCol(const wchar_t* name, const wchar_t* namespaceUri, int minOccurs, int maxOccurs, const wchar_t* pattern,
+        long minLength, long maxLength, const wchar_t* minInclusive, const wchar_t* maxInclusive,
+        const wchar_t* minExclusive, const wchar_t* maxExclusive, long length, long totalDigits, long fractionDigits,
+        CWhitespaceUtils::WhitespaceRule rule, const wchar_t* format);
+    ~CdateCol() override;
+    /// @throws CZrInvalidParamException before anything is announced when the value is not of the kind dt_date.
+    void AddAt(int index, const CDateTime& value) override;
+    void AddFromString(std::wstring text) override;
+};
+
+} // namespace ZrXmlLib16
+
+#endif

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZRXMLLIB16_DAYCOL_H
+#define ZRXMLLIB16_DAYCOL_H
+
+#include "ZrXmlLib16/Export.h"
+#include "ZrXmlLib16/XmlTypeCollection.h"
+
+#include <string>
+#include <vector>
+
+namespace ZrXmlLib16 {
+
+/// A repeated element of xs:gDay values, the number alone.
+class ZRXML_API CdayCol : public CXmlTypeCollection {
+public:
+    /// The arguments of CXmlTypeCollection after the item type.
+    CdayCol(const wchar_t* name, const wchar_t* namespaceUri, int minOccurs, int maxOccurs, const wchar_t* pattern,
+        long minLength, long maxLength, const wchar_t* minInclusive, const wchar_t* maxInclusive,
+        const wchar_t* minExclusive, const wchar_t* maxExclusive, long length, long totalDigits, long fractionDigits,
+        CWhitespaceUtils::WhitespaceRule rule, const wchar_t* format);
+    ~CdayCol() override;
+    /// Adds at the end.
+    void Add(unsigned char value);
+    /// @param index 0 to GetCount()
+    /// @throws CZrInvalidParamException for any other index, CZrException for a value that violates a facet.
+    void AddAt(int index, unsigned char value);
+    void AddFromString(std::wstring text) override;
+    /// @throws CZrInvalidParamException unless 0 <= index < GetCount(), as does Remove.
+    unsigned char Item(int index) const;
+    void Remove(int index);
+    int GetCount() const override;
+    void Clear() override;
+
+protected:
+    void ToXml_Int(CXmlWriter* writer, bool isRoot, const wchar_t* namespaceUri, const CSerializationContext& context,
+        bool isOptional) const override;
+
+private:
+    std::vector<unsigned char> m_items;
+};
+
+} // namespace ZrXmlLib16
+
+#endif
