@@ -4,13 +4,15 @@
 #include "ZrXmlLib16/XmlElement.h"
 #include "ZrXmlLib16/XmlObjectHelper.h"
 
+#include <string_view>
+
 namespace ZrXmlLib16 {
 
 namespace {
 
 constexpr wchar_t XML_BLANKS[] = L" \t\r\n";
 
-bool TestToken(const std::wstring& namespaceUri, const std::wstring& token, const std::wstring& targetNamespace)
+bool TestToken(const std::wstring& namespaceUri, std::wstring_view token, const std::wstring& targetNamespace)
 {
     if (token.empty() || token == L"##any") {
         return true;
@@ -42,16 +44,17 @@ bool CXmlObjectHelper::DoesElementNameMatch(const CSerializationContext& context
 bool CXmlObjectHelper::IsNamespaceValid(
     const std::wstring& namespaceUri, const std::wstring& namespaceSpecification, const std::wstring& targetNamespace)
 {
-    std::wstring::size_type begin = namespaceSpecification.find_first_not_of(XML_BLANKS);
-    if (begin == std::wstring::npos) {
-        return TestToken(namespaceUri, std::wstring(), targetNamespace);
+    const std::wstring_view tokens = namespaceSpecification;
+    std::size_t begin = tokens.find_first_not_of(XML_BLANKS);
+    if (begin == std::wstring_view::npos) {
+        return TestToken(namespaceUri, std::wstring_view(), targetNamespace);
     }
-    while (begin != std::wstring::npos) {
-        const std::wstring::size_type end = namespaceSpecification.find_first_of(XML_BLANKS, begin);
-        if (TestToken(namespaceUri, namespaceSpecification.substr(begin, end - begin), targetNamespace)) {
+    while (begin != std::wstring_view::npos) {
+        const std::size_t end = tokens.find_first_of(XML_BLANKS, begin);
+        if (TestToken(namespaceUri, tokens.substr(begin, end - begin), targetNamespace)) {
             return true;
         }
-        begin = namespaceSpecification.find_first_not_of(XML_BLANKS, end);
+        begin = tokens.find_first_not_of(XML_BLANKS, end);
     }
     return false;
 }

@@ -93,8 +93,7 @@ CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(
                 cursor = Next(cursor);
             }
             CElementInfo* record = records[index];
-            if (again && lastTookSomething && !record->IsCollection()
-                && (!record->IsMatchedByName() || !record->IsThisElement(context, cursor))) {
+            if (again && lastTookSomething && !record->IsCollection() && !record->Claims(context, cursor)) {
                 continue;
             }
             const bool touched = std::exchange(m_touched, false);
@@ -138,7 +137,7 @@ CXmlElement* CXmlGeneratedClass::ProcessElementChoiceFromXml(const CSerializatio
             CXmlElement* const before = cursor;
             const bool satisfied = Offer(*record, context, parent, cursor, target, type);
             // A content-only alternative may have consumed attributes alone; it answers true only when it was touched.
-            const bool isInlineClass = !(*record)->IsMatchedByName() && !(*record)->IsCollection();
+            const bool isInlineClass = (*record)->IsInline() && !(*record)->IsCollection();
             chosen = satisfied && (cursor != before || isInlineClass);
         }
         searching = !chosen && context.GetIgnoreUnknownElements() && cursor && type == XmlElementType_Element;

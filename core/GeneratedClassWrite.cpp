@@ -14,9 +14,11 @@
 #include "ZrXmlLib16Data/ElementInfoChoiceCol.h"
 #include "ZrXmlLib16Data/ElementInfoChoiceEnumOpt.h"
 #include "ZrXmlLib16Data/ElementInfoChoicePrimOpt.h"
+#include "ZrXmlLib16Data/ElementInfoChoiceUntpdOpt.h"
 #include "ZrXmlLib16Data/ParentElementInfo.h"
 #include "core/CoreMessages.h"
 #include "core/DepthGuard.h"
+#include "core/RootPreparation.h"
 #include "metadata/RecordAccess.h"
 
 namespace ZrXmlLib16 {
@@ -37,7 +39,8 @@ bool IsOptionalAlternative(const CElementInfo* record)
 {
     return Is<ZrXmlLib16Data::CElementInfoChoicePrimOpt>(record) || Is<ZrXmlLib16Data::CElementInfoChoiceClsOpt>(record)
         || Is<ZrXmlLib16Data::CElementInfoChoiceAbsClsOpt>(record)
-        || Is<ZrXmlLib16Data::CElementInfoChoiceEnumOpt>(record);
+        || Is<ZrXmlLib16Data::CElementInfoChoiceEnumOpt>(record)
+        || Is<ZrXmlLib16Data::CElementInfoChoiceUntpdOpt>(record);
 }
 
 } // namespace
@@ -68,15 +71,7 @@ void CXmlGeneratedClass::WriteStartTag(CXmlWriter* writer, bool isRoot, const wc
     const CSerializationContext& context, bool isOptional) const
 {
     if (isRoot) {
-        for (const std::wstring& instruction : context.GetProcessingInstructions()) {
-            writer->WritePI(instruction);
-        }
-        for (const auto& entry : context.GetNamespaceAliases().GetEntries()) {
-            writer->AddNamespace(entry.second, entry.first);
-        }
-        if (!context.m_defaultNamespaceUri.empty()) {
-            writer->SetDefaultNamespace(context.m_defaultNamespaceUri);
-        }
+        WriteBeforeRoot(*writer, context, context.m_defaultNamespaceUri);
     }
     std::wstring& uri = ZrXmlLib16Data::CRecordAccess::Scratch(*writer);
     uri = namespaceUri;

@@ -46,11 +46,21 @@ bool ParseNil(const CXmlAttribute& attribute)
         FormatString(Message::NIL_VALUE_UNEXPECTED, attribute.GetValue().c_str()), attribute.GetXPath());
 }
 
+bool IsDefaultDeclaration(const CXmlAttribute& attribute)
+{
+    return attribute.GetLocalName() == DECLARATION_NAME && attribute.GetNamespaceURI().empty();
+}
+
+bool HasDeclarationName(const CXmlAttribute& attribute)
+{
+    return IsDefaultDeclaration(attribute)
+        || (attribute.GetLocalName().compare(0, DECLARATION_PREFIX_LENGTH, DECLARATION_PREFIX) == 0
+            && attribute.GetNamespaceURI().empty());
+}
+
 bool IsUnprocessedDeclaration(const CSerializationContext& context, const CXmlAttribute& attribute)
 {
-    return context.GetSchemaType() == SchemaType_DTD && attribute.GetNamespaceURI().empty()
-        && (attribute.GetLocalName() == DECLARATION_NAME
-            || attribute.GetLocalName().compare(0, DECLARATION_PREFIX_LENGTH, DECLARATION_PREFIX) == 0);
+    return context.GetSchemaType() == SchemaType_DTD && HasDeclarationName(attribute);
 }
 
 bool IsDeclaration(const CSerializationContext& context, const CXmlAttribute& attribute)

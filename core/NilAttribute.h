@@ -18,6 +18,12 @@ bool IsNilFalse(const CXmlAttribute& attribute);
 /// without namespace processing, a namespace declaration.
 bool IsDeclaration(const CSerializationContext& context, const CXmlAttribute& attribute);
 
+/// Whether the attribute has the name of a namespace declaration: "xmlns", or one that starts with "xmlns:".
+bool HasDeclarationName(const CXmlAttribute& attribute);
+
+/// Whether the attribute is the declaration of a default namespace, as far as its name tells.
+bool IsDefaultDeclaration(const CXmlAttribute& attribute);
+
 /// Whether the attribute is a namespace declaration that arrived as an ordinary attribute, without namespace
 /// processing.
 bool IsUnprocessedDeclaration(const CSerializationContext& context, const CXmlAttribute& attribute);

@@ -98,6 +98,7 @@ CXmlCollection::CNode* CXmlCollection::Insert(CXmlObjectBase* item, CNode* befor
     if (!item) {
         throw CZrInvalidParamException(Message::ITEM_IS_NULL);
     }
+    CheckItem(*item);
     // The node holds the item before anybody is told, so that a listener's own reference cannot be the last one.
     std::unique_ptr<CNode> created(new CNode(item));
     const unsigned long changes = m_changes;
@@ -194,6 +195,28 @@ CXmlCollection::CNode* CXmlCollection::GetNodeForItem(const CXmlObjectBase* item
         node = node->m_next;
     }
     return node;
+}
+
+CXmlCollection::CNode* CXmlCollection::GetFirstNode() const
+{
+    return m_first;
+}
+
+void CXmlCollection::CheckItem(CXmlObjectBase&) { }
+
+void CXmlCollection::Adopt(CXmlCollection& other) noexcept
+{
+    if (!other.m_first) {
+        return;
+    }
+    other.m_first->m_previous = m_last;
+    (m_last ? m_last->m_next : m_first) = other.m_first;
+    m_last = other.m_last;
+    m_count += other.m_count;
+    other.m_first = nullptr;
+    other.m_last = nullptr;
+    other.m_count = 0;
+    other.m_cachedNode = nullptr;
 }
 
 void CXmlCollection::Clear()

@@ -47,6 +47,10 @@ CXmlCollectionBase& CXmlCollectionBase::operator=(const CXmlCollectionBase& othe
 
 CXmlCollectionBase::~CXmlCollectionBase() = default;
 
+void CXmlCollectionBase::Clear()
+{
+}
+
 CXmlObjectBase* CXmlCollectionBase::GetBase()
 {
     return this;

@@ -2,6 +2,7 @@
 #include "ZrXmlLib16/XmlGeneratedClass.h"
 
 #include "ZrXmlLib16/ZrVariant.h"
+#include "core/ChoiceCollections.h"
 #include "core/SeenFlags.h"
 
 namespace ZrXmlLib16 {
@@ -9,12 +10,25 @@ namespace ZrXmlLib16 {
 CXmlGeneratedClass::CXmlGeneratedClass()
     : m_satisfied(false)
     , m_touched(false)
+    , m_isUnsetting(false)
 {
 }
 
-CXmlGeneratedClass::CXmlGeneratedClass(const CXmlGeneratedClass& other) = default;
+CXmlGeneratedClass::CXmlGeneratedClass(const CXmlGeneratedClass& other)
+    : CXmlObjectBase(other)
+    , m_satisfied(other.m_satisfied)
+    , m_touched(other.m_touched)
+    , m_isUnsetting(false)
+{
+}
 
-CXmlGeneratedClass& CXmlGeneratedClass::operator=(const CXmlGeneratedClass& other) = default;
+CXmlGeneratedClass& CXmlGeneratedClass::operator=(const CXmlGeneratedClass& other)
+{
+    CXmlObjectBase::operator=(other);
+    m_satisfied = other.m_satisfied;
+    m_touched = other.m_touched;
+    return *this;
+}
 
 CXmlGeneratedClass::~CXmlGeneratedClass() = default;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The public entry points of CXmlObjectBase: each checks the version, builds a stream and a writer or a document, and
 // starts a walk.
+#include "ZrXmlLib16/Element.h"
 #include "ZrXmlLib16/FileBinaryStream.h"
 #include "ZrXmlLib16/FileTextStream.h"
 #include "ZrXmlLib16/TextStream.h"
@@ -99,7 +100,13 @@ void CXmlObjectBase::ReadElement(const CXmlElement* element, const CSerializatio
     }
     // The walk hands out pointers into the tree that generated code may keep moving along; it never writes through
     // them.
-    FromXml_Int(const_cast<CXmlElement*>(element), element->GetFirstElement(), context, false);
+    CXmlElement* root = const_cast<CXmlElement*>(element);
+    if (FromXml_Int(root, root->GetFirstElement(), context, false) == root) {
+        // Nothing but an untyped element refuses the whole of what it is given.
+        if (const CElement* untyped = dynamic_cast<const CElement*>(this)) {
+            untyped->ThrowNamespaceInvalid(root->GetNamespaceURI());
+        }
+    }
 }
 
 void CXmlObjectBase::FromXmlFile(const wchar_t* fileName, const CSerializationContext& context)
@@ -144,6 +151,15 @@ void CXmlObjectBase::FromXmlElement(const CXmlElement* element, const CSerializa
 {
     CheckVersion();
     ReadElement(element, context);
+}
+
+void CXmlObjectBase::FromXmlElement(const CElement* element, const CSerializationContext& context)
+{
+    CheckVersion();
+    if (!element) {
+        throw CZrException(Message::NO_ROOT_ELEMENT);
+    }
+    FromXml(element->ToXml(false, false, EOL_LF).c_str(), context);
 }
 
 } // namespace ZrXmlLib16

@@ -14,6 +14,9 @@
 #include "ZrXmlLib16Data/ElementInfoAllPrimCol.h"
 #include "ZrXmlLib16Data/ElementInfoAllPrimMnd.h"
 #include "ZrXmlLib16Data/ElementInfoAllPrimOpt.h"
+#include "ZrXmlLib16Data/ElementInfoAllUntpdCol.h"
+#include "ZrXmlLib16Data/ElementInfoAllUntpdMnd.h"
+#include "ZrXmlLib16Data/ElementInfoAllUntpdOpt.h"
 #include "metadata/RecordArguments.h"
 #include "metadata/RecordPolicies.h"
 
@@ -35,7 +38,7 @@ bool CElementInfoAllCol::ElementToXml(Context context, ConstObject object, Write
 bool CElementInfoAllCol::ElementFromXml(
     Context context, Object object, Element parent, Cursor current, Text, XmlElementType elementType)
 {
-    return ReadCollection(*this, {context, object, parent, current, elementType});
+    return ReadCollectionInAll(*this, {context, object, parent, current, elementType});
 }
 
 CElementInfoAllPrimMnd::CElementInfoAllPrimMnd(Text name, Text namespaceUri, int propertyId, bool nillable,
@@ -308,5 +311,65 @@ void CElementInfoAllAbsClsCol::PseudoChildAttributeToXml(Context context, ConstO
 {
     WriteItemAttributes(*this, m_childType, {context, object, writer});
 }
+
+CElementInfoAllUntpdMnd::CElementInfoAllUntpdMnd(
+    Text name, Text namespaceUri, int propertyId, Text namespaceSpecification, Text targetNamespace)
+    : CElementInfo(name, namespaceUri, propertyId)
+{
+    MarkAsUntyped(namespaceSpecification, targetNamespace);
+}
+
+CElementInfoAllUntpdMnd::~CElementInfoAllUntpdMnd() = default;
+
+bool CElementInfoAllUntpdMnd::ElementToXml(Context context, ConstObject object, Writer writer) const
+{
+    return WriteMandatory<UntpdKind>(*this, {context, object, writer});
+}
+
+bool CElementInfoAllUntpdMnd::ElementFromXml(
+    Context context, Object object, Element parent, Cursor current, Text, XmlElementType elementType)
+{
+    return ReadIfPresent<UntpdKind>(
+        *this, NoData(), {context, object, parent, current, elementType}, Occurrence::Mandatory, XmlElementGroup_All);
+}
+
+bool CElementInfoAllUntpdMnd::Validate(Context, ConstObject, bool found, bool check) const
+{
+    return ValidateMandatory(*this, found, check);
+}
+
+CElementInfoAllUntpdOpt::CElementInfoAllUntpdOpt(
+    Text name, Text namespaceUri, int propertyId, Text namespaceSpecification, Text targetNamespace)
+    : CElementInfo(name, namespaceUri, propertyId)
+{
+    MarkAsUntyped(namespaceSpecification, targetNamespace);
+}
+
+CElementInfoAllUntpdOpt::~CElementInfoAllUntpdOpt() = default;
+
+bool CElementInfoAllUntpdOpt::ElementToXml(Context context, ConstObject object, Writer writer) const
+{
+    return WriteOptional<UntpdKind>(*this, {context, object, writer});
+}
+
+bool CElementInfoAllUntpdOpt::ElementFromXml(
+    Context context, Object object, Element parent, Cursor current, Text, XmlElementType elementType)
+{
+    return ReadIfPresent<UntpdKind>(
+        *this, NoData(), {context, object, parent, current, elementType}, Occurrence::Optional, XmlElementGroup_All);
+}
+
+bool CElementInfoAllUntpdOpt::Validate(Context, ConstObject, bool, bool) const
+{
+    return true;
+}
+
+CElementInfoAllUntpdCol::CElementInfoAllUntpdCol(Text name, Text namespaceUri, int propertyId)
+    : CElementInfoAllCol(name, namespaceUri, propertyId)
+{
+    MarkAsUntyped();
+}
+
+CElementInfoAllUntpdCol::~CElementInfoAllUntpdCol() = default;
 
 } // namespace ZrXmlLib16Data

@@ -1,22 +1,51 @@
 // SPDX-License-Identifier: MIT
 #include "ZrXmlLib16/AttributeCol.h"
 
-#include "ZrXmlLib16/Formatting.h"
-#include "ZrXmlLib16/XmlObjectHelper.h"
 #include "ZrXmlLib16/XmlWriter.h"
-#include "ZrXmlLib16/ZrInvalidNamespaceException.h"
 #include "ZrXmlLib16/ZrInvalidParamException.h"
 #include "core/CollectionIndex.h"
 #include "core/TextArgument.h"
 #include "metadata/MetadataMessages.h"
+#include "metadata/NamespaceRule.h"
+
+#include <unordered_set>
 
 namespace ZrXmlLib16 {
+
+namespace {
+
+constexpr std::size_t FEW = 16;
+
+struct NameHash {
+    std::size_t operator()(const CAttribute* attribute) const
+    {
+        const std::hash<std::wstring> hash;
+        return hash(attribute->GetName()) * 31 + hash(attribute->GetNamespace());
+    }
+};
+
+struct SameName {
+    bool operator()(const CAttribute* left, const CAttribute* right) const
+    {
+        return left->GetName() == right->GetName() && left->GetNamespace() == right->GetNamespace();
+    }
+};
+
+} // namespace
+
+struct CAttributeCol::Index {
+    std::unordered_set<CAttribute*, NameHash, SameName> items;
+};
+
+CAttributeCol::CAttributeCol()
+    : CXmlCollectionBase(L"", L"", 0, -1)
+{
+}
 
 CAttributeCol::CAttributeCol(const wchar_t* elementName, const wchar_t* namespaceSpecification,
     const wchar_t* targetNamespace, int minOccurs, int maxOccurs)
     : CXmlCollectionBase(elementName, L"", minOccurs, maxOccurs)
-    , m_namespaceSpecification(TextOrEmpty(namespaceSpecification))
-    , m_targetNamespace(TextOrEmpty(targetNamespace))
+    , m_rule(MakeNamespaceRule(namespaceSpecification, targetNamespace))
 {
 }
 
@@ -24,24 +53,35 @@ CAttributeCol::~CAttributeCol() = default;
 
 CAttribute* CAttributeCol::Add(const wchar_t* namespaceUri, const wchar_t* value, const wchar_t* name)
 {
-    if (!*TextOrEmpty(name)) {
+    return AddItem(TextOrEmpty(namespaceUri), TextOrEmpty(value), TextOrEmpty(name));
+}
+
+CAttribute* CAttributeCol::AddItem(
+    const std::wstring& namespaceUri, const std::wstring& value, const std::wstring& name)
+{
+    if (name.empty()) {
         throw CZrInvalidParamException(ZrXmlLib16Data::Message::ATTRIBUTE_NAME_EMPTY);
     }
-    if (!CXmlObjectHelper::IsNamespaceValid(TextOrEmpty(namespaceUri), m_namespaceSpecification, m_targetNamespace)) {
-        throw CZrInvalidNamespaceException(
-            FormatString(ZrXmlLib16Data::Message::NAMESPACE_INVALID, TextOrEmpty(namespaceUri), L"CAttributeCol",
-                m_namespaceSpecification.c_str()),
-            std::wstring());
+    if (!Accepts(m_rule.get(), namespaceUri)) {
+        ThrowNamespaceInvalid(namespaceUri, L"CAttributeCol", WildcardOf(m_rule.get()));
     }
-    if (CAttribute* existing = Find(name, namespaceUri)) {
-        existing->SetValue(value);
+    if (CAttribute* existing = FindItem(namespaceUri, name)) {
+        existing->SetValue(value.c_str());
         FireOnCollectionChange();
         return existing;
     }
-    std::unique_ptr<CAttribute> item(new CAttribute(namespaceUri, value, name));
+    std::unique_ptr<CAttribute> item(new CAttribute(namespaceUri.c_str(), value.c_str(), name.c_str()));
     CAttribute* added = item.get();
     FireOnCollectionAdd(added);
     m_items.push_back(std::move(item));
+    if (m_index) {
+        m_index->items.insert(added);
+    } else if (m_items.size() > FEW) {
+        m_index = std::make_unique<Index>();
+        for (const std::unique_ptr<CAttribute>& each : m_items) {
+            m_index->items.insert(each.get());
+        }
+    }
     FireOnCollectionAddComplete(added);
     FireOnCollectionChange();
     return added;
@@ -54,7 +94,7 @@ int CAttributeCol::GetCount() const
 
 std::wstring CAttributeCol::GetTargetNamespace() const
 {
-    return m_targetNamespace;
+    return TargetNamespaceOf(m_rule.get());
 }
 
 CAttribute* CAttributeCol::Item(int index) const
@@ -65,8 +105,18 @@ CAttribute* CAttributeCol::Item(int index) const
 
 CAttribute* CAttributeCol::Find(const wchar_t* name, const wchar_t* namespaceUri) const
 {
+    return FindItem(TextOrEmpty(namespaceUri), TextOrEmpty(name));
+}
+
+CAttribute* CAttributeCol::FindItem(const std::wstring& namespaceUri, const std::wstring& name) const
+{
+    if (m_index) {
+        CAttribute key(namespaceUri.c_str(), L"", name.c_str());
+        const auto found = m_index->items.find(&key);
+        return found == m_index->items.end() ? nullptr : *found;
+    }
     for (const std::unique_ptr<CAttribute>& item : m_items) {
-        if (item->GetName() == TextOrEmpty(name) && item->GetNamespace() == TextOrEmpty(namespaceUri)) {
+        if (item->GetName() == name && item->GetNamespace() == namespaceUri) {
             return item.get();
         }
     }
@@ -79,6 +129,9 @@ void CAttributeCol::Remove(int index)
     FireOnCollectionRemove(index);
     const std::unique_ptr<CAttribute> removed = std::move(m_items[static_cast<std::size_t>(index)]);
     m_items.erase(m_items.begin() + index);
+    if (m_index) {
+        m_index->items.erase(removed.get());
+    }
     FireOnCollectionRemoveComplete(index);
     FireOnCollectionChange();
 }
@@ -91,6 +144,7 @@ void CAttributeCol::Clear()
     FireOnCollectionRemove(-1);
     const std::vector<std::unique_ptr<CAttribute>> removed = std::move(m_items);
     m_items.clear();
+    m_index.reset();
     FireOnCollectionRemoveComplete(-1);
     FireOnCollectionChange();
 }

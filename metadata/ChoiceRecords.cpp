@@ -10,6 +10,8 @@
 #include "ZrXmlLib16Data/ElementInfoChoiceEnumOpt.h"
 #include "ZrXmlLib16Data/ElementInfoChoicePrimCol.h"
 #include "ZrXmlLib16Data/ElementInfoChoicePrimOpt.h"
+#include "ZrXmlLib16Data/ElementInfoChoiceUntpdCol.h"
+#include "ZrXmlLib16Data/ElementInfoChoiceUntpdOpt.h"
 #include "metadata/RecordArguments.h"
 #include "metadata/RecordPolicies.h"
 
@@ -31,7 +33,7 @@ bool CElementInfoChoiceCol::ElementToXml(Context context, ConstObject object, Wr
 bool CElementInfoChoiceCol::ElementFromXml(
     Context context, Object object, Element parent, Cursor current, Text, XmlElementType elementType)
 {
-    return ReadCollection(*this, {context, object, parent, current, elementType});
+    return ReadCollectionInChoice(*this, {context, object, parent, current, elementType});
 }
 
 CElementInfoChoicePrimOpt::CElementInfoChoicePrimOpt(Text name, Text namespaceUri, int propertyId, bool nillable,
@@ -170,6 +172,41 @@ CElementInfoChoiceAbsClsCol::~CElementInfoChoiceAbsClsCol() = default;
 void CElementInfoChoiceAbsClsCol::PseudoChildAttributeToXml(Context context, ConstObject object, Writer writer) const
 {
     WriteItemAttributes(*this, m_childType, {context, object, writer});
+}
+
+CElementInfoChoiceUntpdOpt::CElementInfoChoiceUntpdOpt(
+    Text name, Text namespaceUri, int propertyId, Text namespaceSpecification, Text targetNamespace)
+    : CElementInfo(name, namespaceUri, propertyId)
+{
+    MarkAsUntyped(namespaceSpecification, targetNamespace);
+}
+
+CElementInfoChoiceUntpdOpt::~CElementInfoChoiceUntpdOpt() = default;
+
+bool CElementInfoChoiceUntpdOpt::ElementToXml(Context context, ConstObject object, Writer writer) const
+{
+    return WriteOptional<UntpdKind>(*this, {context, object, writer});
+}
+
+bool CElementInfoChoiceUntpdOpt::ElementFromXml(
+    Context context, Object object, Element parent, Cursor current, Text, XmlElementType elementType)
+{
+    return ReadIfPresent<UntpdKind>(
+        *this, NoData(), {context, object, parent, current, elementType}, Occurrence::Optional, XmlElementGroup_Choice);
+}
+
+CElementInfoChoiceUntpdCol::CElementInfoChoiceUntpdCol(Text name, Text namespaceUri, int propertyId)
+    : CElementInfoChoiceCol(name, namespaceUri, propertyId)
+{
+    MarkAsUntyped();
+}
+
+CElementInfoChoiceUntpdCol::~CElementInfoChoiceUntpdCol() = default;
+
+bool CElementInfoChoiceUntpdCol::ElementFromXml(
+    Context context, Object object, Element parent, Cursor current, Text, XmlElementType elementType)
+{
+    return ReadCollectionInChoice(*this, {context, object, parent, current, elementType});
 }
 
 } // namespace ZrXmlLib16Data

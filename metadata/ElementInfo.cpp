@@ -10,6 +10,7 @@
 #include "core/TextArgument.h"
 #include "lexical/FacetCheck.h"
 #include "metadata/MetadataMessages.h"
+#include "metadata/NamespaceRule.h"
 
 #include <cwchar>
 
@@ -36,7 +37,9 @@ CElementInfo::CElementInfo(const wchar_t* name, const wchar_t* namespaceUri, int
     , m_hasRestrictions(false)
     , m_hasFacets(false)
     , m_isCollection(false)
-    , m_isMatchedByName(true)
+    , m_isInline(false)
+    , m_isUntyped(false)
+    , m_isWildcard(false)
 {
 }
 
@@ -57,7 +60,9 @@ CElementInfo::CElementInfo(const wchar_t* name, const wchar_t* namespaceUri, int
     , m_hasRestrictions(true)
     , m_hasFacets(HasFacets(restrictions))
     , m_isCollection(false)
-    , m_isMatchedByName(true)
+    , m_isInline(false)
+    , m_isUntyped(false)
+    , m_isWildcard(false)
 {
 }
 
@@ -126,7 +131,21 @@ bool CElementInfo::IsCollection() const
 
 bool CElementInfo::IsMatchedByName() const
 {
-    return m_isMatchedByName;
+    return !m_isInline && !m_isWildcard;
+}
+
+bool CElementInfo::IsInline() const
+{
+    return m_isInline;
+}
+
+bool CElementInfo::Claims(const CSerializationContext& context, const CXmlElement* element) const
+{
+    if (!m_isUntyped) {
+        return !m_isInline && IsThisElement(context, element);
+    }
+    return element && (m_isWildcard || element->GetLocalName() == m_elementName)
+        && Accepts(m_namespaceRule.get(), element->GetNamespaceURI());
 }
 
 void CElementInfo::MarkAsCollection()
@@ -136,7 +155,19 @@ void CElementInfo::MarkAsCollection()
 
 void CElementInfo::MarkChildType(XmlElementType childType)
 {
-    m_isMatchedByName = childType == XmlElementType_Element;
+    m_isInline = childType != XmlElementType_Element;
+}
+
+void CElementInfo::MarkAsUntyped()
+{
+    m_isUntyped = true;
+    m_isWildcard = m_elementName == L"AnyElement";
+}
+
+void CElementInfo::MarkAsUntyped(const wchar_t* namespaceSpecification, const wchar_t* targetNamespace)
+{
+    MarkAsUntyped();
+    m_namespaceRule = MakeNamespaceRule(namespaceSpecification, targetNamespace);
 }
 
 void CElementInfo::InvokePropertyGet(CXmlGeneratedClass* object, ZrVariant& value) const

@@ -33,6 +33,20 @@ constexpr wchar_t NOT_AN_ATTRIBUTE_COLLECTION[] =
 /// namespace, class name, wildcard
 constexpr wchar_t NAMESPACE_INVALID[] = L"The namespace %ls in the class %ls is invalid against restriction %ls";
 constexpr wchar_t ATTRIBUTE_NAME_EMPTY[] = L"Attribute Name must have a value";
+constexpr wchar_t ELEMENT_NAME_EMPTY[] = L"Element Name must have a value";
+constexpr wchar_t NAMESPACE_RESTRICTION_EMPTY[] = L"Namespace Restriction must have a value";
+constexpr wchar_t TARGET_NAMESPACE_EMPTY[] = L"Target Namespace must have a value";
+/// text that is no wildcard keyword
+constexpr wchar_t NOT_A_WILDCARD_KEYWORD[] = L"Invalid Namespace [%ls].";
+/// local name
+constexpr wchar_t ELEMENT_REFUSED[] = L"Invalid Element [%ls] found.";
+constexpr wchar_t COLLECTION_WITHOUT_NAMESPACE[] = L"A Namespace has not been set for this Collection";
+/// wildcard
+constexpr wchar_t REQUIRED_NAMESPACE_MISSING[] = L"Failed to find the required element from namespace [%ls].";
+constexpr wchar_t NOT_AN_ELEMENT_COLLECTION[] =
+    L"Serialization Data Error : The collection should be a CElementCol, it was not!";
+constexpr wchar_t NOT_AN_UNTYPED_ELEMENT[] = L"A CElementCol may only hold CElement objects";
+constexpr wchar_t ELEMENT_SOURCE_IS_NULL[] = L"The source of an untyped element may not be NULL";
 
 } // namespace Message
 } // namespace ZrXmlLib16Data

@@ -2,9 +2,11 @@
 #ifndef METADATA_RECORDACCESS_H
 #define METADATA_RECORDACCESS_H
 
+#include "ZrXmlLib16/Element.h"
 #include "ZrXmlLib16/XmlGeneratedClass.h"
 #include "ZrXmlLib16/XmlWriter.h"
 #include "ZrXmlLib16Data/ElementInfo.h"
+#include "metadata/NamespaceRule.h"
 
 namespace ZrXmlLib16Data {
 
@@ -79,6 +81,17 @@ public:
         return !generated || generated->m_touched;
     }
     static void Touch(ZrXmlLib16::CXmlGeneratedClass& object) { object.m_touched = true; }
+
+    /// An untyped element under the wildcard of its record.
+    static ZrXmlLib16::CSmartPtr<ZrXmlLib16::CXmlObjectBase> NewUntypedElement(const CElementInfo& record)
+    {
+        return new ZrXmlLib16::CElement(record.m_namespaceRule);
+    }
+    static bool IsUntyped(const CElementInfo& record) { return record.m_isUntyped; }
+    static const std::wstring& Wildcard(const CElementInfo& record)
+    {
+        return ZrXmlLib16::WildcardOf(record.m_namespaceRule.get());
+    }
 
     /// A text that records may use between two calls of the writer; keeps its capacity from one value to the next.
     static std::wstring& Scratch(ZrXmlLib16::CXmlWriter& writer) { return writer.m_scratch; }

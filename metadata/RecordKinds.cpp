@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "metadata/RecordKinds.h"
 
+#include "ZrXmlLib16/Element.h"
 #include "ZrXmlLib16/Formatting.h"
 #include "ZrXmlLib16/XmlElement.h"
 #include "ZrXmlLib16/ZrInvalidStateException.h"
@@ -137,6 +138,21 @@ CSmartPtr<CXmlObjectBase> AbsClsKind::InlineChild(const CElementInfo& record, co
         throw CZrValidationException(FormatString(MISSING, record.GetElementName().c_str()), call.parent->GetXPath());
     }
     return child;
+}
+
+bool UntpdKind::Write(const CElementInfo& record, const WriteCall& call)
+{
+    return CRecordAccess::WriteClass(record, call.context, call.object, call.writer);
+}
+
+bool UntpdKind::Read(CElementInfo& record, const Data&, const ReadCall& call, Occurrence)
+{
+    CXmlElement* element = *call.current;
+    const CSmartPtr<CXmlObjectBase> child = CRecordAccess::NewUntypedElement(record);
+    // An untyped element answers with the element behind the one it has read.
+    *call.current = CRecordAccess::ReadChild(record, child, element, element->GetFirstElement(), call.context);
+    Store(record, call.object, child, *element);
+    return true;
 }
 
 } // namespace ZrXmlLib16Data

@@ -63,6 +63,12 @@ struct AbsClsKind {
         const CElementInfo& record, const Data& data, const ReadCall& call);
 };
 
+struct UntpdKind {
+    typedef NoData Data;
+    static bool Write(const CElementInfo& record, const WriteCall& call);
+    static bool Read(CElementInfo& record, const Data& data, const ReadCall& call, Occurrence occurrence);
+};
+
 /// Whether the record's child has no element of its own.
 inline bool IsInline(const NoData&)
 {

@@ -71,7 +71,7 @@ bool ReadOptionalInSequence(CElementInfo& record, const typename Kind::Data& dat
             return ReadInline<Kind>(record, data, call, Occurrence::Optional, XmlElementGroup_Sequence);
         }
     }
-    if (record.IsThisElement(call.context, *call.current)) {
+    if (record.Claims(call.context, *call.current)) {
         Kind::Read(record, data, call, Occurrence::Optional);
     }
     return true;
@@ -113,16 +113,23 @@ template <class Kind> bool ReadIfPresent(CElementInfo& record, const typename Ki
             return ReadInline<Kind>(record, data, call, occurrence, group);
         }
     }
-    return record.IsThisElement(call.context, *call.current) && Kind::Read(record, data, call, occurrence);
+    return record.Claims(call.context, *call.current) && Kind::Read(record, data, call, occurrence);
 }
 
 /// The answer of a mandatory member of an all group after all children were offered.
 bool ValidateMandatory(const CElementInfo& record, bool found, bool check);
 
+/// Mandatory and untyped, in a sequence: unknown elements are not skipped in search of it.
+bool ReadMandatoryUntypedInSequence(CElementInfo& record, const ReadCall& call);
+
 enum class CountCheck { Always, Never };
 
 bool WriteCollection(const CElementInfo& record, const WriteCall& call, CountCheck check);
-bool ReadCollection(CElementInfo& record, const ReadCall& call);
+/// Read as many items as there are; then their number has to be right. In a choice, a collection that takes nothing
+/// only leaves the choice to the other alternatives; in an all group its turn comes once more when no element is left.
+bool ReadCollectionInSequence(CElementInfo& record, const ReadCall& call);
+bool ReadCollectionInChoice(CElementInfo& record, const ReadCall& call);
+bool ReadCollectionInAll(CElementInfo& record, const ReadCall& call);
 
 /// Write the attributes of a child, or of the items of a collection, that are content of this element.
 void WriteChildAttributes(const CElementInfo& record, XmlElementType childType, const WriteCall& call);

@@ -14,6 +14,9 @@
 #include "ZrXmlLib16Data/ElementInfoSeqPrimCol.h"
 #include "ZrXmlLib16Data/ElementInfoSeqPrimMnd.h"
 #include "ZrXmlLib16Data/ElementInfoSeqPrimOpt.h"
+#include "ZrXmlLib16Data/ElementInfoSeqUntpdCol.h"
+#include "ZrXmlLib16Data/ElementInfoSeqUntpdMnd.h"
+#include "ZrXmlLib16Data/ElementInfoSeqUntpdOpt.h"
 #include "metadata/RecordArguments.h"
 #include "metadata/RecordPolicies.h"
 
@@ -35,7 +38,7 @@ bool CElementInfoSeqCol::ElementToXml(Context context, ConstObject object, Write
 bool CElementInfoSeqCol::ElementFromXml(
     Context context, Object object, Element parent, Cursor current, Text, XmlElementType elementType)
 {
-    return ReadCollection(*this, {context, object, parent, current, elementType});
+    return ReadCollectionInSequence(*this, {context, object, parent, current, elementType});
 }
 
 CElementInfoSeqPrimMnd::CElementInfoSeqPrimMnd(Text name, Text namespaceUri, int propertyId, bool nillable,
@@ -259,6 +262,60 @@ CElementInfoSeqAbsClsCol::~CElementInfoSeqAbsClsCol() = default;
 void CElementInfoSeqAbsClsCol::PseudoChildAttributeToXml(Context context, ConstObject object, Writer writer) const
 {
     WriteItemAttributes(*this, m_childType, {context, object, writer});
+}
+
+CElementInfoSeqUntpdMnd::CElementInfoSeqUntpdMnd(
+    Text name, Text namespaceUri, int propertyId, Text namespaceSpecification, Text targetNamespace)
+    : CElementInfo(name, namespaceUri, propertyId)
+{
+    MarkAsUntyped(namespaceSpecification, targetNamespace);
+}
+
+CElementInfoSeqUntpdMnd::~CElementInfoSeqUntpdMnd() = default;
+
+bool CElementInfoSeqUntpdMnd::ElementToXml(Context context, ConstObject object, Writer writer) const
+{
+    return WriteMandatory<UntpdKind>(*this, {context, object, writer});
+}
+
+bool CElementInfoSeqUntpdMnd::ElementFromXml(
+    Context context, Object object, Element parent, Cursor current, Text, XmlElementType elementType)
+{
+    return ReadMandatoryUntypedInSequence(*this, {context, object, parent, current, elementType});
+}
+
+CElementInfoSeqUntpdOpt::CElementInfoSeqUntpdOpt(
+    Text name, Text namespaceUri, int propertyId, Text namespaceSpecification, Text targetNamespace)
+    : CElementInfo(name, namespaceUri, propertyId)
+{
+    MarkAsUntyped(namespaceSpecification, targetNamespace);
+}
+
+CElementInfoSeqUntpdOpt::~CElementInfoSeqUntpdOpt() = default;
+
+bool CElementInfoSeqUntpdOpt::ElementToXml(Context context, ConstObject object, Writer writer) const
+{
+    return WriteOptional<UntpdKind>(*this, {context, object, writer});
+}
+
+bool CElementInfoSeqUntpdOpt::ElementFromXml(
+    Context context, Object object, Element parent, Cursor current, Text, XmlElementType elementType)
+{
+    return ReadOptionalInSequence<UntpdKind>(*this, NoData(), {context, object, parent, current, elementType});
+}
+
+CElementInfoSeqUntpdCol::CElementInfoSeqUntpdCol(Text name, Text namespaceUri, int propertyId)
+    : CElementInfoSeqCol(name, namespaceUri, propertyId)
+{
+    MarkAsUntyped();
+}
+
+CElementInfoSeqUntpdCol::~CElementInfoSeqUntpdCol() = default;
+
+bool CElementInfoSeqUntpdCol::ElementFromXml(
+    Context context, Object object, Element parent, Cursor current, Text, XmlElementType elementType)
+{
+    return ReadCollectionInSequence(*this, {context, object, parent, current, elementType});
 }
 
 } // namespace ZrXmlLib16Data

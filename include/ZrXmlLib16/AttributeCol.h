@@ -11,6 +11,8 @@
 
 namespace ZrXmlLib16 {
 
+struct NamespaceRule;
+
 /// The attributes that a wildcard accepted, or that an application adds to the root element, in the order of adding. No two have the
 /// same name and namespace. Owns its items; changes are announced as for every collection.
 class ZRXML_API CAttributeCol : public CXmlCollectionBase {
@@ -30,7 +32,7 @@ public:
     /// Null when there is none.
     CAttribute* Find(const wchar_t* name, const wchar_t* namespaceUri) const;
     void Remove(int index);
-    void Clear();
+    void Clear() override;
 
 protected:
     void ToXml_Int(CXmlWriter* writer, bool isRoot, const wchar_t* namespaceUri, const CSerializationContext& context,
@@ -40,12 +42,21 @@ protected:
         CXmlElement* element, CXmlElement* firstChild, const CSerializationContext& context, bool isOptional) override;
 
 private:
+    friend class CElement;
+
+    struct Index;
+
+    /// For any attributes.
+    CAttributeCol();
     CAttributeCol(const CAttributeCol&) = delete;
     CAttributeCol& operator=(const CAttributeCol&) = delete;
 
-    std::wstring m_namespaceSpecification;
-    std::wstring m_targetNamespace;
+    CAttribute* AddItem(const std::wstring& namespaceUri, const std::wstring& value, const std::wstring& name);
+    CAttribute* FindItem(const std::wstring& namespaceUri, const std::wstring& name) const;
+
+    std::shared_ptr<const NamespaceRule> m_rule;
     std::vector<std::unique_ptr<CAttribute>> m_items;
+    std::unique_ptr<Index> m_index; // of the items by name; null while there are few
 };
 
 } // namespace ZrXmlLib16

@@ -53,7 +53,7 @@ public:
     CNode* GetNodeAtIndex(int index) const;
     /// First node of the item, null when there is none.
     CNode* GetNodeForItem(const CXmlObjectBase* item) const;
-    void Clear();
+    void Clear() override;
     int GetCount() const override;
 
 protected:
@@ -67,6 +67,12 @@ protected:
     virtual CSmartPtr<CXmlObjectBase> CreateItem(CXmlElement* element);
     /// How the items are represented; by default as elements of their own.
     virtual ZrXmlLib16Data::XmlElementType GetItemElementType() const;
+    /// Called for every item before it is inserted and before anybody is told; throws to refuse it. Accepts any item by default.
+    virtual void CheckItem(CXmlObjectBase& item);
+    /// Null when the collection is empty.
+    CNode* GetFirstNode() const;
+    /// Moves all items of another collection behind the own ones. Nobody is told and nothing is checked.
+    void Adopt(CXmlCollection& other) noexcept;
 
     CXmlCollection(const CXmlCollection&) = delete;
     CXmlCollection& operator=(const CXmlCollection&) = delete;

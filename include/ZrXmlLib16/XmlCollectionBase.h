@@ -25,6 +25,8 @@ public:
     std::wstring GetTargetNamespace() const override;
     /// Number of items.
     virtual int GetCount() const = 0;
+    /// Removes all items; the base has none. Choices clear the collections of the alternatives that are not selected.
+    virtual void Clear();
     /// Appends a listener, also one that is already there: it is then told twice. Null is ignored.
     void AddEventListener(IEventSink* listener);
     /// Removes every occurrence of a listener.

@@ -3,16 +3,21 @@
 #define ZRXMLLIB16_XMLGENERATEDCLASS_H
 
 #include "ZrXmlLib16/Export.h"
+#include "ZrXmlLib16/SmartPtr.h"
 #include "ZrXmlLib16/XmlObjectBase.h"
 #include "ZrXmlLib16Data/XmlElementType.h"
 
+#include <memory>
+
 namespace ZrXmlLib16Data {
+class CElementInfo;
 class CParentElementInfo;
 class CRecordAccess;
 }
 
 namespace ZrXmlLib16 {
 
+class CChoiceCollections;
 class CSeenFlags;
 class ZrVariant;
 
@@ -74,7 +79,22 @@ protected:
     /// Whether any element record of the class recognises the element.
     bool IsElementInList(const CSerializationContext& context, const CXmlElement* element) const;
 
+    /// Keep at most one alternative of a choice set; called by generated setters, readers and event handlers. An alternative is unset by
+    /// storing an invalid variant into its property, or by clearing its collection. Calls that this gives rise to do nothing.
+    /// @{
+    /// Unsets every alternative but this one.
+    void Choice_SelectElement(int propertyId);
+    /// Selects the alternative when it is valid, unsets it when it is not.
+    void Choice_SetElementValid(int propertyId, bool valid);
+    /// Selects the alternative of a collection that has items.
+    void Choice_CollectionChanged(const CXmlCollectionBase* collection, int propertyId);
+    /// Makes the object a listener of the collection (may be null) that the property holds now, and of no former one. Has no effect
+    /// when it is one already; ends with the object.
+    void Choice_Read_Collection(CSmartPtr<CXmlCollectionBase>& collection, int propertyId);
+    /// @}
+
     CXmlGeneratedClass();
+    /// The copy listens to no collection.
     CXmlGeneratedClass(const CXmlGeneratedClass& other);
     CXmlGeneratedClass& operator=(const CXmlGeneratedClass& other);
     ~CXmlGeneratedClass() override;
@@ -103,10 +123,14 @@ private:
     /// Offers the cursor to a record and commits the movement only when the record is satisfied.
     bool Offer(ZrXmlLib16Data::CElementInfo* record, const CSerializationContext& context, CXmlElement* parent,
         CXmlElement*& cursor, const std::wstring& target, ZrXmlLib16Data::XmlElementType type);
+    void UnsetAlternative(const ZrXmlLib16Data::CElementInfo& record);
+    void UnsetAlternatives(int propertyId, bool isProperty);
 
     // The result of the last read, which tells a content-only object that is absent from one that is legitimately empty.
     bool m_satisfied;
     bool m_touched;
+    bool m_isUnsetting; // alternatives of a choice
+    std::unique_ptr<CChoiceCollections> m_choiceCollections; // null while there are none
 };
 
 } // namespace ZrXmlLib16

@@ -20,6 +20,7 @@ class CElementInfo;
 
 namespace ZrXmlLib16 {
 
+class CElement;
 class CTextStream;
 class CXmlCollectionBase;
 class CXmlElement;
@@ -75,6 +76,9 @@ public:
     /// Fills the object from an element of a document that is already loaded; the tree is not changed.
     virtual void FromXmlElement(
         const CXmlElement* element, const CSerializationContext& context = CSerializationContext::m_defaultContext);
+    /// Fills the object from an untyped element, which is written as text with the default context and read with the given one.
+    virtual void FromXmlElement(
+        const CElement* element, const CSerializationContext& context = CSerializationContext::m_defaultContext);
 
     virtual ~CXmlObjectBase();
     /// Namespace URI under which the object is written as the root of a document.

@@ -39,7 +39,7 @@ public:
     /// @throws CZrInvalidValueException for text that is no value of the item type, else as adding does.
     virtual void AddFromString(std::wstring text) = 0;
     int GetCount() const override = 0;
-    virtual void Clear() = 0;
+    void Clear() override = 0;
     ItemType GetItemType() const;
 
 protected:

@@ -9,6 +9,7 @@
 #include "ZrXmlLib16/WhitespaceUtils.h"
 #include "ZrXmlLib16Data/XmlElementType.h"
 
+#include <memory>
 #include <string>
 
 namespace ZrXmlLib16 {
@@ -18,6 +19,7 @@ class CXmlGeneratedClass;
 class CXmlObjectBase;
 class CXmlWriter;
 class ZrVariant;
+struct NamespaceRule;
 }
 
 namespace ZrXmlLib16Data {
@@ -101,8 +103,13 @@ public:
     const std::wstring& GetNamespace() const;
     /// Whether the property is a collection, which consumes any number of elements.
     bool IsCollection() const;
-    /// Whether the record claims elements by its own name; the record of a content-only child does not.
+    /// Whether the record claims elements by its own name; those of content-only children and of wildcards do not.
     bool IsMatchedByName() const;
+    /// Whether the child, or the item of the collection, has no element of its own.
+    bool IsInline() const;
+    /// Whether the element (may be null) is one for this record: by its name, by the namespaces of the wildcard, or by both.
+    /// A content-only child claims no element as a whole. The namespaces of a repeated wildcard are known to its collection only.
+    bool Claims(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlElement* element) const;
 
     CElementInfo(const CElementInfo&) = delete;
     CElementInfo& operator=(const CElementInfo&) = delete;
@@ -132,9 +139,12 @@ protected:
     void ElementFromXmlEnum(const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlElement** current);
 
-    /// Constructors of derived records say here what the two questions above answer.
+    /// Constructors of derived records say here what the questions above answer.
     void MarkAsCollection();
     void MarkChildType(XmlElementType childType);
+    /// For untyped elements. One that is named "AnyElement" is a wildcard, which accepts any name.
+    void MarkAsUntyped();
+    void MarkAsUntyped(const wchar_t* namespaceSpecification, const wchar_t* targetNamespace);
 
     friend class CRecordAccess;
 
@@ -159,7 +169,10 @@ private:
     bool m_hasRestrictions;
     bool m_hasFacets;
     bool m_isCollection;
-    bool m_isMatchedByName;
+    bool m_isInline;
+    bool m_isUntyped;
+    bool m_isWildcard;
+    std::shared_ptr<const ZrXmlLib16::NamespaceRule> m_namespaceRule; // of an untyped element
 };
 
 } // namespace ZrXmlLib16Data

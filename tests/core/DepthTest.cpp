@@ -90,6 +90,29 @@ TEST(Depth, DefaultLimitFitsASmallThread)
     });
 }
 
+TEST(Depth, UntypedElementsHaveTheSameLimit)
+{
+    RunOnSmallStack([] {
+        const CSmartPtr<CElement> element = new CElement;
+        element->FromXml(Nested(1024).c_str());
+        EXPECT_EQ(1024U, CountOf(Narrow(element->ToXml(false, false)), "<n"));
+        const std::string reading = FailureOf([&] { element->FromXml(Nested(1025).c_str()); });
+        EXPECT_EQ("Zr: The element nesting is too deep.\nPath: /n/n", reading.substr(0, 47));
+        EXPECT_EQ(1025U, CountOf(reading, "/n"));
+        CXmlDocument document;
+        document.LoadXml(Nested(1025).c_str());
+        element->CopyXmlElement(document.GetDocumentElement());
+        EXPECT_EQ("Zr: The element nesting is too deep.", FailureOf([&] { element->ToXml(); }));
+        // Untyped elements and objects are counted together.
+        CSerializationContext context;
+        context.SetMaxDepth(3);
+        const TestClass type = Class(L"a").Any(L"##any");
+        EXPECT_EQ("a{AnyElement=<n><n/></n>}", Read(type, L"<a><n><n/></n></a>", context));
+        EXPECT_EQ(
+            "Zr: The element nesting is too deep.\nPath: /a/n/n/n", Read(type, L"<a><n><n><n/></n></n></a>", context));
+    });
+}
+
 TEST(Depth, LimitIsTheContexts)
 {
     CSerializationContext context;

@@ -63,11 +63,11 @@ TEST(Record, keeps_SilentStopAtARecordThatRefuses)
 TEST(Record, ClassTree)
 {
     EXPECT_TRUE((DeriveFrom<CElementInfoSeqCol, CElementInfoSeqPrimCol, CElementInfoSeqEnumCol, CElementInfoSeqClsCol,
-        CElementInfoSeqAbsClsCol>()));
+        CElementInfoSeqAbsClsCol, CElementInfoSeqUntpdCol>()));
     EXPECT_TRUE((DeriveFrom<CElementInfoChoiceCol, CElementInfoChoicePrimCol, CElementInfoChoiceEnumCol,
-        CElementInfoChoiceClsCol, CElementInfoChoiceAbsClsCol>()));
+        CElementInfoChoiceClsCol, CElementInfoChoiceAbsClsCol, CElementInfoChoiceUntpdCol>()));
     EXPECT_TRUE((DeriveFrom<CElementInfoAllCol, CElementInfoAllPrimCol, CElementInfoAllEnumCol, CElementInfoAllClsCol,
-        CElementInfoAllAbsClsCol>()));
+        CElementInfoAllAbsClsCol, CElementInfoAllUntpdCol>()));
     EXPECT_TRUE(std::is_abstract<CElementInfoAllEnumCol>::value);
     EXPECT_FALSE(std::is_abstract<CElementInfoAllCol>::value);
 }

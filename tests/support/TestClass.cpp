@@ -55,13 +55,17 @@ CElementInfo* NewCollectionRecord(XmlElementGroupType group, const PropertySpec&
     case RecordKind::Cls:
         return NewCollection<CElementInfoSeqClsCol, CElementInfoChoiceClsCol, CElementInfoAllClsCol>(
             group, name, uri, id, TestClass::ById(spec.classId).Data().elementType);
+    case RecordKind::Untyped:
+        return NewCollection<CElementInfoSeqUntpdCol, CElementInfoChoiceUntpdCol, CElementInfoAllUntpdCol>(
+            group, name, uri, id);
     default:
         return NewCollection<CElementInfoSeqCol, CElementInfoChoiceCol, CElementInfoAllCol>(group, name, uri, id);
     }
 }
 
-CElementInfo* NewElementRecord(XmlElementGroupType group, const PropertySpec& spec, int id)
+CElementInfo* NewElementRecord(const ClassData& owner, const PropertySpec& spec, int id)
 {
+    const XmlElementGroupType group = owner.group;
     const wchar_t* name = spec.name.c_str();
     const wchar_t* uri = spec.namespaceUri.c_str();
     const wchar_t* byDefault = spec.defaultValue.c_str();
@@ -79,6 +83,10 @@ CElementInfo* NewElementRecord(XmlElementGroupType group, const PropertySpec& sp
         return NewRecord<CElementInfoSeqAbsClsMnd, CElementInfoSeqAbsClsOpt, CElementInfoChoiceAbsClsOpt,
             CElementInfoAllAbsClsMnd, CElementInfoAllAbsClsOpt>(
             group, spec.occurs, name, uri, id, XmlElementType_Element, &CreateByElement);
+    if (spec.kind == RecordKind::Untyped)
+        return NewRecord<CElementInfoSeqUntpdMnd, CElementInfoSeqUntpdOpt, CElementInfoChoiceUntpdOpt,
+            CElementInfoAllUntpdMnd, CElementInfoAllUntpdOpt>(
+            group, spec.occurs, name, uri, id, spec.wildcard.c_str(), owner.namespaceUri.c_str());
     return NewRecord<CElementInfoSeqClsMnd, CElementInfoSeqClsOpt, CElementInfoChoiceClsOpt, CElementInfoAllClsMnd,
         CElementInfoAllClsOpt>(group, spec.occurs, name, uri, id, TestClass::ById(spec.classId).Data().elementType,
         &CreateById, spec.classId, spec.createInline);
@@ -154,7 +162,7 @@ void ClassData::BuildTables()
             || spec.kind == RecordKind::AnyAttr) {
             attributes.push_back(NewAttributeRecord(*this, spec, index));
         } else {
-            elements.push_back(NewElementRecord(group, spec, index));
+            elements.push_back(NewElementRecord(*this, spec, index));
         }
     }
     elements.push_back(nullptr);
@@ -195,6 +203,12 @@ TestClass& TestClass::Add(RecordKind kind, const wchar_t* name, ItemType type)
     Last().kind = kind;
     Last().name = name;
     return With(Last().itemType, type);
+}
+
+TestClass& TestClass::Any(const wchar_t* wildcard, const wchar_t* name)
+{
+    Add(RecordKind::Untyped, name).Last().wildcard = wildcard;
+    return *this;
 }
 
 TestClass& TestClass::AnyAttr(const wchar_t* name, const wchar_t* wildcard)

@@ -11,7 +11,7 @@ namespace TestSupport {
 
 class TestObject;
 
-enum class RecordKind { Prim, Enum, Cls, AbsCls, Plain, Attr, EnumAttr, AnyAttr, Value };
+enum class RecordKind { Prim, Enum, Cls, AbsCls, Plain, Attr, EnumAttr, AnyAttr, Untyped, Value };
 enum class Occurs { Mandatory, Optional, Collection };
 
 /// One property of a dynamic class: a child element, an attribute or the simple content.
@@ -84,6 +84,8 @@ public:
     TestClass& Cls(const wchar_t* name, TestClass child) { return Add(RecordKind::Cls, name).Holds(child); }
     TestClass& AbsCls(const wchar_t* name) { return Add(RecordKind::AbsCls, name); }
     TestClass& Plain(const wchar_t* name, TestClass item) { return Add(RecordKind::Plain, name).Holds(item).Col(); }
+    /// A wildcard, or with a name an untyped element of that name.
+    TestClass& Any(const wchar_t* wildcard, const wchar_t* name = L"AnyElement");
     TestClass& Attr(const wchar_t* name, ZrXmlLib16::ItemType type = ZrXmlLib16::ItemType_string)
     {
         return Add(RecordKind::Attr, name, type).Opt();

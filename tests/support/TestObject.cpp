@@ -21,13 +21,19 @@ std::wstring DescribeAttributes(const CAttributeCol& attributes)
     return text;
 }
 
+std::wstring DescribeChild(const CXmlObjectBase& child)
+{
+    const auto* object = dynamic_cast<const TestObject*>(&child);
+    return object ? DescribeObject(*object) : child.ToXml(false, false);
+}
+
 std::wstring DescribeCollection(CXmlCollectionBase* collection)
 {
     if (const auto* attributes = dynamic_cast<const CAttributeCol*>(collection))
         return DescribeAttributes(*attributes);
     std::wstring text;
-    for (auto* node = static_cast<TestCollection*>(collection)->GetNodeAtIndex(0); node; node = node->GetNext())
-        text += (text.empty() ? L"" : L",") + DescribeObject(static_cast<const TestObject&>(*node->GetItem()));
+    for (auto* node = static_cast<CXmlCollection*>(collection)->GetNodeAtIndex(0); node; node = node->GetNext())
+        text += (text.empty() ? L"" : L",") + DescribeChild(*node->GetItem());
     return text;
 }
 
@@ -41,7 +47,7 @@ std::wstring DescribeValue(const PropertySpec& spec, const ZrVariant& value)
     if (value.IsNil())
         return L"nil";
     if (value.GetItemType() == ItemType_object)
-        return DescribeObject(static_cast<const TestObject&>(*value.GetXmlObject().GetPtr()));
+        return DescribeChild(*value.GetXmlObject());
     if (value.GetItemType() == ItemType_collection)
         return L"[" + DescribeCollection(value.GetXmlCollection()) + L"]";
     return IsEnum(spec) ? ColourToString(static_cast<int>(value.GetI4())) : value.ToString(L"");
@@ -76,6 +82,9 @@ void TestObject::Init()
         m_values[i].SetInvalid();
         if (spec.kind == RecordKind::AnyAttr)
             m_values[i].SetXmlCollection(new CAttributeCol(L"", spec.wildcard.c_str(), m_type.namespaceUri.c_str()));
+        else if (spec.occurs == Occurs::Collection && spec.kind == RecordKind::Untyped)
+            m_values[i].SetXmlCollection(new CElementCol(
+                spec.name.c_str(), spec.wildcard.c_str(), m_type.namespaceUri.c_str(), spec.minOccurs, spec.maxOccurs));
         else if (spec.occurs == Occurs::Collection)
             m_values[i].SetXmlCollection(new TestCollection(spec.name.c_str(), spec.namespaceUri.c_str(),
                 spec.minOccurs, spec.maxOccurs, spec.classId < 0 ? nullptr : &TestClass::ById(spec.classId).Data()));
@@ -140,6 +149,11 @@ TestCollection* TestObject::Collection(const wchar_t* property)
 CAttributeCol* TestObject::Attributes(const wchar_t* property)
 {
     return static_cast<CAttributeCol*>((*this)[property].GetXmlCollection().GetPtr());
+}
+
+CElementCol* TestObject::Elements(const wchar_t* property)
+{
+    return static_cast<CElementCol*>((*this)[property].GetXmlCollection().GetPtr());
 }
 
 CSmartPtr<CXmlObjectBase> TestCollection::CreateItem(CXmlElement* element)

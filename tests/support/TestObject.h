@@ -27,6 +27,7 @@ public:
     TestObject* Child(const wchar_t* property);
     TestCollection* Collection(const wchar_t* property);
     ZrXmlLib16::CAttributeCol* Attributes(const wchar_t* property);
+    ZrXmlLib16::CElementCol* Elements(const wchar_t* property);
 
     std::wstring GetNamespace() const override { return m_type.namespaceUri; }
     std::wstring GetTargetNamespace() const override { return m_type.namespaceUri; }

@@ -25,6 +25,7 @@ public:
     }
     ~CountedCollection() override { --s_living; }
     int GetCount() const override { return 0; }
+    void Clear() override { }
 
     static int s_living;
     ZrVariant m_kept;

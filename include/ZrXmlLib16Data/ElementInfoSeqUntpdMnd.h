@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZRXMLLIB16DATA_ELEMENTINFOSEQUNTPDMND_H
+#define ZRXMLLIB16DATA_ELEMENTINFOSEQUNTPDMND_H
+
+#include "ZrXmlLib16/Export.h"
+#include "ZrXmlLib16Data/ElementInfo.h"
+
+namespace ZrXmlLib16Data {
+
+/// Record of a mandatory element in an xs:sequence whose content is untyped. Named "AnyElement" it is a wildcard, which takes any name.
+class ZRXML_API CElementInfoSeqUntpdMnd : public CElementInfo {
+public:
+    CElementInfoSeqUntpdMnd(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, const wchar_t* namespaceSpecification,
+        const wchar_t* targetNamespace);
+    ~CElementInfoSeqUntpdMnd() override;
+    bool ElementToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
+        ZrXmlLib16::CXmlWriter* writer) const override;
+    bool ElementFromXml(const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlGeneratedClass* object,
+        ZrXmlLib16::CXmlElement* parent, ZrXmlLib16::CXmlElement** current, const wchar_t* defaultNamespace,
+        XmlElementType elementType) override;
+};
+
+} // namespace ZrXmlLib16Data
+
+#endif
