@@ -47,9 +47,7 @@ CXmlCollectionBase& CXmlCollectionBase::operator=(const CXmlCollectionBase& othe
 
 CXmlCollectionBase::~CXmlCollectionBase() = default;
 
-void CXmlCollectionBase::Clear()
-{
-}
+void CXmlCollectionBase::Clear() { }
 
 CXmlObjectBase* CXmlCollectionBase::GetBase()
 {

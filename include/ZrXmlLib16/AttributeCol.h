@@ -2,8 +2,8 @@
 #ifndef ZRXMLLIB16_ATTRIBUTECOL_H
 #define ZRXMLLIB16_ATTRIBUTECOL_H
 
-#include "ZrXmlLib16/Export.h"
 #include "ZrXmlLib16/Attribute.h"
+#include "ZrXmlLib16/Export.h"
 #include "ZrXmlLib16/XmlCollectionBase.h"
 
 #include <memory>
@@ -13,16 +13,18 @@ namespace ZrXmlLib16 {
 
 struct NamespaceRule;
 
-/// The attributes that a wildcard accepted, or that an application adds to the root element, in the order of adding. No two have the
-/// same name and namespace. Owns its items; changes are announced as for every collection.
+/// The attributes that a wildcard accepted, or that an application adds to the root element, in the order of adding. No
+/// two have the same name and namespace. Owns its items; changes are announced as for every collection.
 class ZRXML_API CAttributeCol : public CXmlCollectionBase {
 public:
-    /// @param namespaceSpecification what Add accepts: "##any", "##other", or a list of "##local", "##targetNamespace" and URIs
+    /// @param namespaceSpecification what Add accepts: "##any", "##other", or a list of "##local", "##targetNamespace"
+    /// and URIs
     CAttributeCol(const wchar_t* elementName, const wchar_t* namespaceSpecification, const wchar_t* targetNamespace,
         int minOccurs = 0, int maxOccurs = -1);
     /// Adds an attribute, or gives the one of that name and namespace a new value.
     /// @return the attribute, owned by the collection until it is removed.
-    /// @throws CZrInvalidNamespaceException when the wildcard refuses the namespace, CZrInvalidParamException for an empty name.
+    /// @throws CZrInvalidNamespaceException when the wildcard refuses the namespace, CZrInvalidParamException for an
+    /// empty name.
     CAttribute* Add(const wchar_t* namespaceUri, const wchar_t* value, const wchar_t* name);
     int GetCount() const override;
     ~CAttributeCol() override;

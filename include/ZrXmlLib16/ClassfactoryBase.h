@@ -19,8 +19,8 @@ public:
     /// Local name of the type that xsi:type names; empty without such an attribute. The value is not trimmed.
     /// @param element not null.
     static std::wstring GetElementType(CXmlElement* element);
-    /// Namespace of that type. A prefix is looked up in the document, where the last declaration of a prefix counts, and gives an
-    /// empty text when it is unbound; without a prefix it is the element's own namespace.
+    /// Namespace of that type. A prefix is looked up in the document, where the last declaration of a prefix counts,
+    /// and gives an empty text when it is unbound; without a prefix it is the element's own namespace.
     static std::wstring GetElementTypeNamespaceUri(CXmlElement* element);
 };
 

@@ -19,13 +19,15 @@ class CAttributeCol;
 class CElementCol;
 struct NamespaceRule;
 
-/// An element whose content no schema describes, as a tree of its own: name, namespace, text, attributes and child elements.
+/// An element whose content no schema describes, as a tree of its own: name, namespace, text, attributes and child
+/// elements.
 ///
-/// It is what a wildcard (xs:any) captures, and it carries the constraint of that wildcard on its namespace; attributes and children
-/// are free. All text of an element is one text, which is written behind the children. Trees may be of any depth: copying, cloning and
-/// destroying one does not recurse; reading and writing one is limited by CSerializationContext::GetMaxDepth. Children are shared by
-/// reference count like all objects; an element must not be put into its own tree. Null texts are empty. A tree belongs to one thread
-/// at a time, also for reading, because the two collections are created when they are first asked for.
+/// It is what a wildcard (xs:any) captures, and it carries the constraint of that wildcard on its namespace; attributes
+/// and children are free. All text of an element is one text, which is written behind the children. Trees may be of any
+/// depth: copying, cloning and destroying one does not recurse; reading and writing one is limited by
+/// CSerializationContext::GetMaxDepth. Children are shared by reference count like all objects; an element must not be
+/// put into its own tree. Null texts are empty. A tree belongs to one thread at a time, also for reading, because the
+/// two collections are created when they are first asked for.
 class ZRXML_API CElement : public CXmlObjectBase {
 public:
     /// Without a name, for any namespace; to be filled by Init, CopyXmlElement or a read.
@@ -39,10 +41,11 @@ public:
     /// As Init.
     CElement(const wchar_t* name, const wchar_t* namespaceUri, const wchar_t* namespaceSpecification,
         const wchar_t* targetNamespace);
-    /// The document that the object writes with the default context. Every namespace is accepted; the target namespace is the object's.
+    /// The document that the object writes with the default context. Every namespace is accepted; the target namespace
+    /// is the object's.
     /// @param object not null
-    /// @param defaultNamespace for writing this element as the root of a document: the namespace of unprefixed names. No element of the
-    /// tree may then be without a namespace, because none would be undeclared.
+    /// @param defaultNamespace for writing this element as the root of a document: the namespace of unprefixed names.
+    /// No element of the tree may then be without a namespace, because none would be undeclared.
     CElement(CXmlObjectBase* object, const wchar_t* defaultNamespace);
     ~CElement() override;
     CXmlObjectBase* GetBase() override;
@@ -53,11 +56,13 @@ public:
     /// @throws CZrInvalidParamException for an empty name, wildcard or target namespace; nothing changes.
     void Init(const wchar_t* name, const wchar_t* namespaceUri, const wchar_t* namespaceSpecification,
         const wchar_t* targetNamespace);
-    /// Becomes a copy of an element of a document and of everything below it, whatever the constraint. Namespace declarations are not
-    /// copied as attributes; that of a default namespace holds when this element is written as a root.
+    /// Becomes a copy of an element of a document and of everything below it, whatever the constraint. Namespace
+    /// declarations are not copied as attributes; that of a default namespace holds when this element is written as a
+    /// root.
     /// @throws CZrInvalidParamException for null.
     void CopyXmlElement(CXmlElement* element);
-    /// @throws CZrInvalidNamespaceException when the element's namespace does not fulfil the new constraint; nothing changes.
+    /// @throws CZrInvalidNamespaceException when the element's namespace does not fulfil the new constraint; nothing
+    /// changes.
     void SetNamespaceRestrictions(const wchar_t* namespaceSpecification, const wchar_t* targetNamespace);
     using CXmlObjectBase::FromXml;
     /// Replaces name, namespace and content. Like every reading entry point:
@@ -77,11 +82,13 @@ public:
     CSmartPtr<CElementCol> GetElements() const;
 
 protected:
-    /// The namespace argument is not used: an untyped element knows its own. A root is preceded by the processing instructions, the
-    /// prefixes and the default namespace of the context; a default namespace of the element itself goes before the context's.
+    /// The namespace argument is not used: an untyped element knows its own. A root is preceded by the processing
+    /// instructions, the prefixes and the default namespace of the context; a default namespace of the element itself
+    /// goes before the context's.
     void ToXml_Int(CXmlWriter* writer, bool isRoot, const wchar_t* namespaceUri, const CSerializationContext& context,
         bool isOptional) const override;
-    /// @return the next sibling of the element, or the element itself when its namespace does not fulfil the constraint.
+    /// @return the next sibling of the element, or the element itself when its namespace does not fulfil the
+    /// constraint.
     CXmlElement* FromXml_Int(
         CXmlElement* element, CXmlElement* firstChild, const CSerializationContext& context, bool isOptional) override;
 
@@ -109,7 +116,7 @@ private:
     std::wstring m_namespace;
     std::shared_ptr<const NamespaceRule> m_rule;
     mutable CSmartPtr<CAttributeCol> m_attributes; // null until asked for
-    mutable CSmartPtr<CElementCol> m_elements; // null until asked for
+    mutable CSmartPtr<CElementCol> m_elements;     // null until asked for
     std::wstring m_defaultNamespace;
 };
 

@@ -14,8 +14,9 @@ namespace ZrXmlLib16 {
 
 /// Untyped elements in order: what a repeated wildcard captured, or the children of an untyped element.
 ///
-/// Holds CElement objects only. Every one that is put in comes under the constraint of the collection on namespaces, which replaces its
-/// own; one that does not fulfil it is refused. Lives on the heap, held in a CSmartPtr, like every collection.
+/// Holds CElement objects only. Every one that is put in comes under the constraint of the collection on namespaces,
+/// which replaces its own; one that does not fulfil it is refused. Lives on the heap, held in a CSmartPtr, like every
+/// collection.
 class ZRXML_API CElementCol : public CXmlCollection {
 public:
     /// @param elementName named in the messages about the number of items; the items have names of their own
@@ -69,10 +70,12 @@ public:
     /// @throws CZrInvalidStateException when the collection has no namespace.
     CElement* Add(const wchar_t* name);
     /// @param namespaceUri null is empty.
-    /// @throws CZrInvalidNamespaceException when the constraint refuses the namespace, CZrInvalidParamException for an empty name.
+    /// @throws CZrInvalidNamespaceException when the constraint refuses the namespace, CZrInvalidParamException for an
+    /// empty name.
     CElement* Add(const wchar_t* name, const wchar_t* namespaceUri);
     /// Appends an element, which the collection then shares.
-    /// @throws CZrInvalidParamException for null, CZrInvalidNamespaceException when the constraint refuses its namespace.
+    /// @throws CZrInvalidParamException for null, CZrInvalidNamespaceException when the constraint refuses its
+    /// namespace.
     void Add(CElement* element);
     /// @throws CZrInvalidParamException unless 0 <= index < GetCount().
     CElement* Item(int index) const;
@@ -84,8 +87,10 @@ public:
     /// Puts the collection and its items under another constraint.
     /// @throws CZrInvalidNamespaceException when an item does not fulfil it; nothing changes.
     void SetNamespaceRestrictions(const wchar_t* namespaceSpecification, const wchar_t* targetNamespace);
-    /// Appends the consecutive elements, from the cursor (may be null) on, that have the local name and fulfil the constraint.
-    /// @param namespaceUri namespace they have to have as well, under the settings of the context; "##any" for whatever they have
+    /// Appends the consecutive elements, from the cursor (may be null) on, that have the local name and fulfil the
+    /// constraint.
+    /// @param namespaceUri namespace they have to have as well, under the settings of the context; "##any" for whatever
+    /// they have
     /// @return the first element that was not taken, or null.
     CXmlElement* FromXmlLockElementName_Int(const wchar_t* name, const wchar_t* namespaceUri, CXmlElement* parent,
         CXmlElement* cursor, const CSerializationContext& context);

@@ -10,7 +10,8 @@
 
 namespace ZrXmlLib16 {
 
-/// Wide printf-style formatting. Wide strings go in as %ls, a single character as %lc; the format is never text from outside.
+/// Wide printf-style formatting. Wide strings go in as %ls, a single character as %lc; the format is never text from
+/// outside.
 ZRXML_API std::wstring FormatString(const wchar_t* format, ...);
 /// FormatString with an argument list; a format that cannot be carried out gives the bare format text.
 ZRXML_API std::wstring FormatV(const wchar_t* format, va_list arguments);
@@ -18,8 +19,8 @@ ZRXML_API std::wstring FormatV(const wchar_t* format, va_list arguments);
 ZRXML_API std::wstring PadZero(int value, unsigned char width);
 /// The text without its trailing zero digits; the first character always stays.
 ZRXML_API std::wstring TrimTrainingZeros(std::wstring text);
-/// Replaces occurrences in place, searching from the start again after each one: a replacement that contains the searched text,
-/// or an empty searched text, never ends.
+/// Replaces occurrences in place, searching from the start again after each one: a replacement that contains the
+/// searched text, or an empty searched text, never ends.
 ZRXML_API void FindReplace(std::string& text, const std::string& from, const std::string& to);
 ZRXML_API void FindReplace(std::wstring& text, const std::wstring& from, const std::wstring& to);
 /// UTF-8 of a wide text, whatever the locale; null is empty.

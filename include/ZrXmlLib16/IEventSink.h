@@ -13,10 +13,10 @@ class ZRXML_API IEventSink {
 public:
     enum MsgType : int {
         CollectionChanged = 0, ///< data: null
-        BeforeAdd = 1, ///< data: the item
-        AfterAdd = 2, ///< data: the item
-        BeforeRemove = 3, ///< data: pointer to the item's index (int), null when the whole collection is cleared
-        AfterRemove = 4 ///< data: as for BeforeRemove
+        BeforeAdd = 1,         ///< data: the item
+        AfterAdd = 2,          ///< data: the item
+        BeforeRemove = 3,      ///< data: pointer to the item's index (int), null when the whole collection is cleared
+        AfterRemove = 4        ///< data: as for BeforeRemove
     };
 
     /// @param sender the collection, borrowed for the length of the call
@@ -24,7 +24,7 @@ public:
     virtual void OnEvent(CXmlObjectBase* sender, MsgType type, void* data) = 0;
 
 protected:
-    ~IEventSink() {}
+    ~IEventSink() { }
 };
 
 } // namespace ZrXmlLib16

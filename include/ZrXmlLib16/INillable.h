@@ -6,14 +6,15 @@
 
 namespace ZrXmlLib16 {
 
-/// Implemented by generated classes whose element may carry xsi:nil. The first slot is IsNil: the destructor is not virtual.
+/// Implemented by generated classes whose element may carry xsi:nil. The first slot is IsNil: the destructor is not
+/// virtual.
 class ZRXML_API INillable {
 public:
     virtual bool IsNil() const = 0;
     virtual void SetNil(bool isNil) = 0;
 
 protected:
-    ~INillable() {}
+    ~INillable() { }
 };
 
 } // namespace ZrXmlLib16

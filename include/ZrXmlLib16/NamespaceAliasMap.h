@@ -11,8 +11,9 @@ namespace ZrXmlLib16 {
 
 /// The namespace prefixes (aliases) that an application wants declared on the root element of a written document.
 ///
-/// Each namespace URI is a key once; several URIs may share an alias, which then is declared twice: the caller's mistake. Entries are
-/// ordered by URI, and so are the declarations. Belongs to one thread, like the context that holds it.
+/// Each namespace URI is a key once; several URIs may share an alias, which then is declared twice: the caller's
+/// mistake. Entries are ordered by URI, and so are the declarations. Belongs to one thread, like the context that holds
+/// it.
 class ZRXML_API CNamespaceAliasMap {
 public:
     typedef std::map<std::wstring, std::wstring> Entries; ///< namespace URI to alias
@@ -32,7 +33,8 @@ public:
     /// URI of the first entry, in URI order, with that alias.
     /// @throws CZrException when no entry has it.
     std::wstring GetNamespaceFromAlias(const wchar_t* alias) const;
-    /// Alias of the URI. An unknown URI is entered with an empty alias, which is returned: the look-up inserts although it is constant.
+    /// Alias of the URI. An unknown URI is entered with an empty alias, which is returned: the look-up inserts although
+    /// it is constant.
     std::wstring GetAliasFromNamespace(const wchar_t* namespaceUri) const;
     /// All entries, in URI order; borrowed.
     const Entries& GetEntries() const;

@@ -8,9 +8,10 @@ namespace ZrXmlLib16 {
 
 /// How names are taken from a document.
 enum SchemaType : int {
-    SchemaType_XSD = 0, ///< names have namespaces
+    SchemaType_XSD = 0,      ///< names have namespaces
     SchemaType_Reserved = 1, ///< as SchemaType_XSD
-    SchemaType_DTD = 2 ///< no namespace processing: names keep their prefix, declarations are attributes, only local names are compared
+    SchemaType_DTD = 2 ///< no namespace processing: names keep their prefix, declarations are attributes, only local
+                       ///< names are compared
 };
 
 } // namespace ZrXmlLib16

@@ -16,8 +16,8 @@ class CAttributeCol;
 
 /// The settings of a read or write call. Passed as a constant reference to every entry point of CXmlObjectBase.
 ///
-/// Copies share the additional root attributes; everything else is copied. A context belongs to one thread at a time, or is fully set
-/// up before it is shared: GetAdditionalRootAttributes creates its collection on first use.
+/// Copies share the additional root attributes; everything else is copied. A context belongs to one thread at a time,
+/// or is fully set up before it is shared: GetAdditionalRootAttributes creates its collection on first use.
 class ZRXML_API CSerializationContext {
 public:
     /// Settings of the calls that name none. Exists from load to unload.
@@ -82,7 +82,8 @@ public:
     /// @param text null is empty.
     /// @throws CZrInvalidParamException for any other character; the old value stays.
     void SetIndentChars(const wchar_t* text);
-    /// Nested elements that the walks over objects accept, which bounds the machine stack they use. Default 1024, about 4 KiB each.
+    /// Nested elements that the walks over objects accept, which bounds the machine stack they use. Default 1024, about
+    /// 4 KiB each.
     int GetMaxDepth() const;
     /// @throws CZrInvalidParamException for a value below 1.
     void SetMaxDepth(int levels);

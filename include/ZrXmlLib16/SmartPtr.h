@@ -8,9 +8,9 @@ namespace ZrXmlLib16 {
 
 /// Intrusive pointer to a reference-counted object (CXmlObjectBase and its derived classes).
 ///
-/// Calls AddRef on taking an object and Release on dropping it; moving calls neither. A new object counts 0 references, so
-/// `CSmartPtr<T> p(new T)` ends with exactly one destruction, and an object on the stack must never be put into a CSmartPtr.
-/// One pointer belongs to one thread; the object behind it may be shared.
+/// Calls AddRef on taking an object and Release on dropping it; moving calls neither. A new object counts 0 references,
+/// so `CSmartPtr<T> p(new T)` ends with exactly one destruction, and an object on the stack must never be put into a
+/// CSmartPtr. One pointer belongs to one thread; the object behind it may be shared.
 template <class T> class CSmartPtr {
 public:
     CSmartPtr() noexcept
@@ -33,8 +33,7 @@ public:
     {
         other.m_object = nullptr;
     }
-    template <class U>
-    CSmartPtr(const CSmartPtr<U>& other)
+    template <class U> CSmartPtr(const CSmartPtr<U>& other)
         : m_object(other.GetPtr())
     {
         Acquire();

@@ -67,7 +67,8 @@ protected:
     virtual CSmartPtr<CXmlObjectBase> CreateItem(CXmlElement* element);
     /// How the items are represented; by default as elements of their own.
     virtual ZrXmlLib16Data::XmlElementType GetItemElementType() const;
-    /// Called for every item before it is inserted and before anybody is told; throws to refuse it. Accepts any item by default.
+    /// Called for every item before it is inserted and before anybody is told; throws to refuse it. Accepts any item by
+    /// default.
     virtual void CheckItem(CXmlObjectBase& item);
     /// Null when the collection is empty.
     CNode* GetFirstNode() const;

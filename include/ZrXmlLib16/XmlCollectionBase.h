@@ -9,10 +9,11 @@
 
 namespace ZrXmlLib16 {
 
-/// What every collection of a repeated element shares: name and namespace of the items, occurrence counts, and listeners.
+/// What every collection of a repeated element shares: name and namespace of the items, occurrence counts, and
+/// listeners.
 ///
-/// Lives on the heap, held in a CSmartPtr. Listeners are not owned and not counted; they are told in the order of adding, of a
-/// snapshot of the list, and one that is removed during the announcement is no longer called.
+/// Lives on the heap, held in a CSmartPtr. Listeners are not owned and not counted; they are told in the order of
+/// adding, of a snapshot of the list, and one that is removed during the announcement is no longer called.
 class ZRXML_API CXmlCollectionBase : public CXmlObjectBase {
 public:
     /// @param elementName local name of the items

@@ -23,9 +23,10 @@ class ZrVariant;
 
 /// Base of every generated complex-type class.
 ///
-/// A generated class answers three questions about itself (its class record and its two null-terminated lists of records) and gives
-/// access to its properties by index; the two walks of this class do the rest. They keep no state of their own between calls but the
-/// two results of the last read below. Metadata is built once per class, is read-only, and belongs to the generated class.
+/// A generated class answers three questions about itself (its class record and its two null-terminated lists of
+/// records) and gives access to its properties by index; the two walks of this class do the rest. They keep no state of
+/// their own between calls but the two results of the last read below. Metadata is built once per class, is read-only,
+/// and belongs to the generated class.
 class ZRXML_API CXmlGeneratedClass : public CXmlObjectBase {
 public:
     CXmlObjectBase* GetBase() override;
@@ -70,17 +71,18 @@ protected:
     void ProcessAttributesFromXml(const CSerializationContext& context, CXmlElement* element, bool rejectUnknown);
     /// Let the element records claim children, starting at the cursor (null: none left).
     /// @return the cursor left over, null when every child was consumed.
-    CXmlElement* ProcessElementSeqFromXml(const CSerializationContext& context, CXmlElement* parent, CXmlElement* cursor,
-        ZrXmlLib16Data::XmlElementType type);
-    CXmlElement* ProcessElementAllFromXml(const CSerializationContext& context, CXmlElement* parent, CXmlElement* cursor,
-        ZrXmlLib16Data::XmlElementType type);
-    CXmlElement* ProcessElementChoiceFromXml(const CSerializationContext& context, CXmlElement* parent, CXmlElement* cursor,
-        ZrXmlLib16Data::XmlElementType type, bool isOptional);
+    CXmlElement* ProcessElementSeqFromXml(const CSerializationContext& context, CXmlElement* parent,
+        CXmlElement* cursor, ZrXmlLib16Data::XmlElementType type);
+    CXmlElement* ProcessElementAllFromXml(const CSerializationContext& context, CXmlElement* parent,
+        CXmlElement* cursor, ZrXmlLib16Data::XmlElementType type);
+    CXmlElement* ProcessElementChoiceFromXml(const CSerializationContext& context, CXmlElement* parent,
+        CXmlElement* cursor, ZrXmlLib16Data::XmlElementType type, bool isOptional);
     /// Whether any element record of the class recognises the element.
     bool IsElementInList(const CSerializationContext& context, const CXmlElement* element) const;
 
-    /// Keep at most one alternative of a choice set; called by generated setters, readers and event handlers. An alternative is unset by
-    /// storing an invalid variant into its property, or by clearing its collection. Calls that this gives rise to do nothing.
+    /// Keep at most one alternative of a choice set; called by generated setters, readers and event handlers. An
+    /// alternative is unset by storing an invalid variant into its property, or by clearing its collection. Calls that
+    /// this gives rise to do nothing.
     /// @{
     /// Unsets every alternative but this one.
     void Choice_SelectElement(int propertyId);
@@ -88,8 +90,8 @@ protected:
     void Choice_SetElementValid(int propertyId, bool valid);
     /// Selects the alternative of a collection that has items.
     void Choice_CollectionChanged(const CXmlCollectionBase* collection, int propertyId);
-    /// Makes the object a listener of the collection (may be null) that the property holds now, and of no former one. Has no effect
-    /// when it is one already; ends with the object.
+    /// Makes the object a listener of the collection (may be null) that the property holds now, and of no former one.
+    /// Has no effect when it is one already; ends with the object.
     void Choice_Read_Collection(CSmartPtr<CXmlCollectionBase>& collection, int propertyId);
     /// @}
 
@@ -105,8 +107,8 @@ protected:
     friend class ZrXmlLib16Data::CRecordAccess;
 
 private:
-    void WriteStartTag(
-        CXmlWriter* writer, bool isRoot, const wchar_t* namespaceUri, const CSerializationContext& context, bool isOptional) const;
+    void WriteStartTag(CXmlWriter* writer, bool isRoot, const wchar_t* namespaceUri,
+        const CSerializationContext& context, bool isOptional) const;
     void WriteContent(CXmlWriter* writer, const CSerializationContext& context, bool isOptional) const;
     void WriteSimpleContent(CXmlWriter* writer) const;
     CXmlElement* ReadContent(
@@ -126,10 +128,11 @@ private:
     void UnsetAlternative(const ZrXmlLib16Data::CElementInfo& record);
     void UnsetAlternatives(int propertyId, bool isProperty);
 
-    // The result of the last read, which tells a content-only object that is absent from one that is legitimately empty.
+    // The result of the last read, which tells a content-only object that is absent from one that is legitimately
+    // empty.
     bool m_satisfied;
     bool m_touched;
-    bool m_isUnsetting; // alternatives of a choice
+    bool m_isUnsetting;                                      // alternatives of a choice
     std::unique_ptr<CChoiceCollections> m_choiceCollections; // null while there are none
 };
 

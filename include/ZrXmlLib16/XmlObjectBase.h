@@ -26,19 +26,20 @@ class CXmlCollectionBase;
 class CXmlElement;
 class CXmlWriter;
 
-/// Whether the file entry points write uncompressed text straight into the file instead of building the whole output first.
-/// Process-wide, false at start; set once by the application.
+/// Whether the file entry points write uncompressed text straight into the file instead of building the whole output
+/// first. Process-wide, false at start; set once by the application.
 ZRXML_API void AsyncToXmlFile(bool on);
 
-/// Root of every generated object: an element name, an intrusive reference count, and the entry points that turn the object into a
-/// document and fill it from one.
+/// Root of every generated object: an element name, an intrusive reference count, and the entry points that turn the
+/// object into a document and fill it from one.
 ///
-/// The count starts at 0 and CSmartPtr keeps it, so an object that a CSmartPtr touches must be on the heap: children and collections
-/// always are. The object whose entry point is called may be anywhere, because no entry point takes a reference to it. The count may be
-/// changed from several threads; everything else belongs to one thread at a time.
+/// The count starts at 0 and CSmartPtr keeps it, so an object that a CSmartPtr touches must be on the heap: children
+/// and collections always are. The object whose entry point is called may be anywhere, because no entry point takes a
+/// reference to it. The count may be changed from several threads; everything else belongs to one thread at a time.
 ///
-/// Every entry point first checks the registered generator version and throws CZrException when it is not the library's. All failures
-/// are exceptions of the CZrException family. A read that fails leaves the object partly filled.
+/// Every entry point first checks the registered generator version and throws CZrException when it is not the
+/// library's. All failures are exceptions of the CZrException family. A read that fails leaves the object partly
+/// filled.
 class ZRXML_API CXmlObjectBase : public IEventSink {
 public:
     /// Does nothing; generated classes that listen to their collections override it.
@@ -56,15 +57,17 @@ public:
     virtual std::wstring ToXml(bool includeHeader = true, bool formatted = true, EOLType eol = EOL_LF,
         const CSerializationContext& context = CSerializationContext::m_defaultContext) const;
     /// The object as the bytes of an XML document, compressed when asked for.
-    virtual CBinaryData ToXmlStream(bool includeHeader = true, bool formatted = true, XmlEncoding encoding = Encoding_UTF8,
-        EOLType eol = EOL_LF, const CSerializationContext& context = CSerializationContext::m_defaultContext,
+    virtual CBinaryData ToXmlStream(bool includeHeader = true, bool formatted = true,
+        XmlEncoding encoding = Encoding_UTF8, EOLType eol = EOL_LF,
+        const CSerializationContext& context = CSerializationContext::m_defaultContext,
         CompressionType compression = Compression_None) const;
 
     /// Fills the object from a file: XML text in UTF-8 or UTF-16, gzip or zlib compressed or not.
     virtual void FromXmlFile(
         const wchar_t* fileName, const CSerializationContext& context = CSerializationContext::m_defaultContext);
     /// Fills the object from a zero-terminated document in the encoding that the document declares.
-    virtual void FromXml(const char* text, const CSerializationContext& context = CSerializationContext::m_defaultContext);
+    virtual void FromXml(
+        const char* text, const CSerializationContext& context = CSerializationContext::m_defaultContext);
     /// Fills the object from wide text. The low 16 bits of each character are taken as one UTF-16 unit.
     virtual void FromXml(
         const wchar_t* text, const CSerializationContext& context = CSerializationContext::m_defaultContext);
@@ -76,7 +79,8 @@ public:
     /// Fills the object from an element of a document that is already loaded; the tree is not changed.
     virtual void FromXmlElement(
         const CXmlElement* element, const CSerializationContext& context = CSerializationContext::m_defaultContext);
-    /// Fills the object from an untyped element, which is written as text with the default context and read with the given one.
+    /// Fills the object from an untyped element, which is written as text with the default context and read with the
+    /// given one.
     virtual void FromXmlElement(
         const CElement* element, const CSerializationContext& context = CSerializationContext::m_defaultContext);
 
@@ -104,8 +108,8 @@ protected:
     virtual void AttributesToXml_Int(CXmlWriter* writer, const CSerializationContext& context) const;
     /// Writes the object.
     /// @param namespaceUri not null; empty for no namespace.
-    virtual void ToXml_Int(CXmlWriter* writer, bool isRoot, const wchar_t* namespaceUri, const CSerializationContext& context,
-        bool isOptional) const = 0;
+    virtual void ToXml_Int(CXmlWriter* writer, bool isRoot, const wchar_t* namespaceUri,
+        const CSerializationContext& context, bool isOptional) const = 0;
     /// Fills the object.
     /// @param firstChild first child element to consider, may be null.
     /// @return the first child element that was not consumed, or null.

@@ -10,15 +10,17 @@ namespace ZrXmlLib16 {
 
 /// Base of every exception of the library: a message, the path of the node at fault, and the exception that caused it.
 ///
-/// An exception owns a copy of its cause, so a failure deep in an object tree arrives as a chain, outermost first. Exceptions are
-/// values: copies are deep, and a copy of the chain keeps the dynamic type of every cause. Not synchronised.
+/// An exception owns a copy of its cause, so a failure deep in an object tree arrives as a chain, outermost first.
+/// Exceptions are values: copies are deep, and a copy of the chain keeps the dynamic type of every cause. Not
+/// synchronised.
 class ZRXML_API CZrException {
 public:
     CZrException();
     explicit CZrException(const std::wstring& message);
     /// @param inner the cause; a clone of it is kept.
     CZrException(const std::wstring& message, const CZrException& inner);
-    /// @param path XPath of the node at fault; when it is not empty, "\nPath: " and the path are appended to the message.
+    /// @param path XPath of the node at fault; when it is not empty, "\nPath: " and the path are appended to the
+    /// message.
     CZrException(const std::wstring& message, const std::wstring& path);
     CZrException(const std::wstring& message, const std::wstring& path, const CZrException& inner);
     CZrException(const CZrException& other);

@@ -24,8 +24,8 @@ using ZrXmlLib16::CPrimitiveRestrictions;
 using ZrXmlLib16::CWhitespaceUtils;
 using ZrXmlLib16::ItemType;
 
-/// Describes one attribute of a generated class. Like the element records, attribute records move values through the accessor of the
-/// class, are built once, are read-only afterwards, and belong to the class.
+/// Describes one attribute of a generated class. Like the element records, attribute records move values through the
+/// accessor of the class, are built once, are read-only afterwards, and belong to the class.
 class ZRXML_API CAttributeInfo {
 public:
     /// @param name local name; null texts are empty
@@ -39,15 +39,15 @@ public:
         const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlWriter* writer) const = 0;
     /// Stores the attribute in the object when it is this record's.
     /// @return whether it is.
-    virtual bool AttributeFromXml(const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlGeneratedClass* object,
-        ZrXmlLib16::CXmlAttribute* attribute) = 0;
+    virtual bool AttributeFromXml(const ZrXmlLib16::CSerializationContext& context,
+        ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlAttribute* attribute) = 0;
     /// Called once after all attributes were offered.
     /// @throws CZrValidationException when a required attribute was not found.
     virtual void Validate(const ZrXmlLib16::CSerializationContext& context, bool found) const = 0;
 
-    /// Whether the attribute (may be null) has the name of this record; namespaces count unless the context ignores them.
-    bool IsThisAttribute(
-        const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlAttribute* attribute) const;
+    /// Whether the attribute (may be null) has the name of this record; namespaces count unless the context ignores
+    /// them.
+    bool IsThisAttribute(const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlAttribute* attribute) const;
     /// The wildcard rules of CXmlObjectHelper.
     static bool TestNamespace(const std::wstring& namespaceUri, const std::wstring& namespaceSpecification,
         const std::wstring& targetNamespace);
@@ -62,7 +62,8 @@ public:
     CAttributeInfo& operator=(const CAttributeInfo&) = delete;
 
 protected:
-    /// Call the accessor; its CZrException is wrapped in a CZrValidationException, on setting with the path of the attribute.
+    /// Call the accessor; its CZrException is wrapped in a CZrValidationException, on setting with the path of the
+    /// attribute.
     void InvokePropertyGet(ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::ZrVariant& value) const;
     void InvokePropertySet(ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::ZrVariant& value,
         const ZrXmlLib16::CXmlAttribute& source) const;

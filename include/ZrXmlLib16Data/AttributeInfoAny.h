@@ -7,7 +7,8 @@
 
 namespace ZrXmlLib16Data {
 
-/// Record of an attribute wildcard: its property holds a CAttributeCol that collects every attribute in an allowed namespace.
+/// Record of an attribute wildcard: its property holds a CAttributeCol that collects every attribute in an allowed
+/// namespace.
 class ZRXML_API CAttributeInfoAny : public CAttributeInfo {
 public:
     /// @param namespaceSpecification "##any", "##other", or a list of "##local", "##targetNamespace" and URIs

@@ -12,9 +12,9 @@ namespace ZrXmlLib16Data {
 class ZRXML_API CAttributeInfoPrimitive : public CAttributeInfo {
 public:
     /// The restrictions are copied.
-    CAttributeInfoPrimitive(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool optional, ItemType itemType,
-        const wchar_t* numberFormat, CWhitespaceUtils::WhitespaceRule rule, const CPrimitiveRestrictions& restrictions,
-        const wchar_t* defaultValue);
+    CAttributeInfoPrimitive(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool optional,
+        ItemType itemType, const wchar_t* numberFormat, CWhitespaceUtils::WhitespaceRule rule,
+        const CPrimitiveRestrictions& restrictions, const wchar_t* defaultValue);
     ~CAttributeInfoPrimitive() override;
     void AttributeToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlWriter* writer) const override;

@@ -30,8 +30,8 @@ using ZrXmlLib16::ItemType;
 
 class CRecordAccess;
 
-/// Generated converters between an enumeration value and its lexical form. The first returns null for an unknown value, the second
-/// throws for an unknown text.
+/// Generated converters between an enumeration value and its lexical form. The first returns null for an unknown value,
+/// the second throws for an unknown text.
 typedef const wchar_t* (*EnumToString)(int value);
 typedef int (*StringToEnum)(const wchar_t* text);
 /// Generated factories: a new object of a class, and the object that an element stands for (null for none).
@@ -52,11 +52,13 @@ struct CAbstractClassRecordData {
     AbstractClassFactory factory;
 };
 
-/// Describes one child element, or one alternative of a choice, of a generated class: name, type, facets, and how it is written and
-/// read. The concrete record spells group, kind of content and occurrence in its name (CElementInfoSeqPrimMnd ...).
+/// Describes one child element, or one alternative of a choice, of a generated class: name, type, facets, and how it is
+/// written and read. The concrete record spells group, kind of content and occurrence in its name
+/// (CElementInfoSeqPrimMnd ...).
 ///
-/// A record never touches the members of an object: it moves values through the accessor of the generated class. Records are built
-/// once per class, are read-only afterwards, may be used by any number of threads, and belong to the class.
+/// A record never touches the members of an object: it moves values through the accessor of the generated class.
+/// Records are built once per class, are read-only afterwards, may be used by any number of threads, and belong to the
+/// class.
 class ZRXML_API CElementInfo {
 public:
     /// For class-valued elements and collections.
@@ -64,8 +66,8 @@ public:
     /// @param propertyId index given to the accessor of the generated class
     CElementInfo(const wchar_t* name, const wchar_t* namespaceUri, int propertyId);
     /// For enumerated elements.
-    CElementInfo(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool nillable, EnumToString enumToString,
-        StringToEnum stringToEnum, const wchar_t* defaultValue);
+    CElementInfo(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool nillable,
+        EnumToString enumToString, StringToEnum stringToEnum, const wchar_t* defaultValue);
     /// For primitive elements. The restrictions are copied.
     CElementInfo(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool nillable, ItemType itemType,
         const wchar_t* numberFormat, CWhitespaceUtils::WhitespaceRule rule, const CPrimitiveRestrictions& restrictions,
@@ -74,18 +76,19 @@ public:
     virtual ~CElementInfo();
     /// Writes the element for the object.
     /// @return whether something was written.
-    virtual bool ElementToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
-        ZrXmlLib16::CXmlWriter* writer) const = 0;
+    virtual bool ElementToXml(const ZrXmlLib16::CSerializationContext& context,
+        const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlWriter* writer) const = 0;
     /// Consumes zero or more elements, starting at *current (null: none left), and moves *current past them.
     /// @param defaultNamespace target namespace of the object
     /// @param elementType how the object itself is represented: unless it is an element of its own, failing is no error
     /// @return whether the record is satisfied.
-    virtual bool ElementFromXml(const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlGeneratedClass* object,
-        ZrXmlLib16::CXmlElement* parent, ZrXmlLib16::CXmlElement** current, const wchar_t* defaultNamespace,
-        XmlElementType elementType) = 0;
-    /// Whether the element may be absent or was found. Only the records of an all group have an answer; the others throw.
-    virtual bool Validate(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
-        bool found, bool check) const;
+    virtual bool ElementFromXml(const ZrXmlLib16::CSerializationContext& context,
+        ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlElement* parent, ZrXmlLib16::CXmlElement** current,
+        const wchar_t* defaultNamespace, XmlElementType elementType) = 0;
+    /// Whether the element may be absent or was found. Only the records of an all group have an answer; the others
+    /// throw.
+    virtual bool Validate(const ZrXmlLib16::CSerializationContext& context,
+        const ZrXmlLib16::CXmlGeneratedClass* object, bool found, bool check) const;
     /// Writes the attributes that a content-only child puts onto its parent's element.
     virtual void PseudoChildAttributeToXml(const ZrXmlLib16::CSerializationContext& context,
         const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlWriter* writer) const;
@@ -107,15 +110,17 @@ public:
     bool IsMatchedByName() const;
     /// Whether the child, or the item of the collection, has no element of its own.
     bool IsInline() const;
-    /// Whether the element (may be null) is one for this record: by its name, by the namespaces of the wildcard, or by both.
-    /// A content-only child claims no element as a whole. The namespaces of a repeated wildcard are known to its collection only.
+    /// Whether the element (may be null) is one for this record: by its name, by the namespaces of the wildcard, or by
+    /// both. A content-only child claims no element as a whole. The namespaces of a repeated wildcard are known to its
+    /// collection only.
     bool Claims(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlElement* element) const;
 
     CElementInfo(const CElementInfo&) = delete;
     CElementInfo& operator=(const CElementInfo&) = delete;
 
 protected:
-    /// Call the accessor; its CZrException is wrapped in a CZrValidationException, on setting with the path of the source element.
+    /// Call the accessor; its CZrException is wrapped in a CZrValidationException, on setting with the path of the
+    /// source element.
     void InvokePropertyGet(ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::ZrVariant& value) const;
     void InvokePropertySet(ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::ZrVariant& value,
         const ZrXmlLib16::CXmlElement& source) const;
@@ -125,10 +130,10 @@ protected:
         ZrXmlLib16::CXmlElement* firstChild, const ZrXmlLib16::CSerializationContext& context, bool isOptional);
     void AttributesToXml_Int(const ZrXmlLib16::CXmlObjectBase* object, ZrXmlLib16::CXmlWriter* writer,
         const ZrXmlLib16::CSerializationContext& context) const;
-    bool ElementToXmlPrim(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
-        ZrXmlLib16::CXmlWriter* writer) const;
-    bool ElementToXmlEnum(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
-        ZrXmlLib16::CXmlWriter* writer, EnumToString enumToString) const;
+    bool ElementToXmlPrim(const ZrXmlLib16::CSerializationContext& context,
+        const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlWriter* writer) const;
+    bool ElementToXmlEnum(const ZrXmlLib16::CSerializationContext& context,
+        const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlWriter* writer, EnumToString enumToString) const;
     bool ElementToXmlCls(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlWriter* writer, bool isOptional) const;
     bool ElementToXmlCol(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,

@@ -7,7 +7,8 @@
 
 namespace ZrXmlLib16Data {
 
-/// Record of a mandatory element in an xs:all whose content is an abstract generated class, resolved to a concrete one on reading.
+/// Record of a mandatory element in an xs:all whose content is an abstract generated class, resolved to a concrete one
+/// on reading.
 class ZRXML_API CElementInfoAllAbsClsMnd : public CElementInfo {
 public:
     CElementInfoAllAbsClsMnd(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType,
@@ -18,10 +19,10 @@ public:
     bool ElementFromXml(const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlElement* parent, ZrXmlLib16::CXmlElement** current, const wchar_t* defaultNamespace,
         XmlElementType elementType) override;
-    bool Validate(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object, bool found,
-        bool check) const override;
-    void PseudoChildAttributeToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
-        ZrXmlLib16::CXmlWriter* writer) const override;
+    bool Validate(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
+        bool found, bool check) const override;
+    void PseudoChildAttributeToXml(const ZrXmlLib16::CSerializationContext& context,
+        const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlWriter* writer) const override;
 
 private:
     CAbstractClassRecordData m_data;

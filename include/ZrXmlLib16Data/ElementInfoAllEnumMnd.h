@@ -18,8 +18,8 @@ public:
     bool ElementFromXml(const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlElement* parent, ZrXmlLib16::CXmlElement** current, const wchar_t* defaultNamespace,
         XmlElementType elementType) override;
-    bool Validate(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object, bool found,
-        bool check) const override;
+    bool Validate(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
+        bool found, bool check) const override;
 };
 
 } // namespace ZrXmlLib16Data

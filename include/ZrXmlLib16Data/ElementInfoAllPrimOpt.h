@@ -10,17 +10,17 @@ namespace ZrXmlLib16Data {
 /// Record of an optional element in an xs:all whose content is a primitive value.
 class ZRXML_API CElementInfoAllPrimOpt : public CElementInfo {
 public:
-    CElementInfoAllPrimOpt(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool nillable, ItemType itemType,
-        const wchar_t* numberFormat, CWhitespaceUtils::WhitespaceRule rule, const CPrimitiveRestrictions& restrictions,
-        const wchar_t* defaultValue);
+    CElementInfoAllPrimOpt(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool nillable,
+        ItemType itemType, const wchar_t* numberFormat, CWhitespaceUtils::WhitespaceRule rule,
+        const CPrimitiveRestrictions& restrictions, const wchar_t* defaultValue);
     ~CElementInfoAllPrimOpt() override;
     bool ElementToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlWriter* writer) const override;
     bool ElementFromXml(const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlElement* parent, ZrXmlLib16::CXmlElement** current, const wchar_t* defaultNamespace,
         XmlElementType elementType) override;
-    bool Validate(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object, bool found,
-        bool check) const override;
+    bool Validate(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
+        bool found, bool check) const override;
 };
 
 } // namespace ZrXmlLib16Data

@@ -7,7 +7,8 @@
 
 namespace ZrXmlLib16Data {
 
-/// Record of a repeated element in an xs:all whose content is untyped. Named "AnyElement" it is a wildcard, which takes any name.
+/// Record of a repeated element in an xs:all whose content is untyped. Named "AnyElement" it is a wildcard, which takes
+/// any name.
 class ZRXML_API CElementInfoAllUntpdCol : public CElementInfoAllCol {
 public:
     CElementInfoAllUntpdCol(const wchar_t* name, const wchar_t* namespaceUri, int propertyId);

@@ -7,19 +7,20 @@
 
 namespace ZrXmlLib16Data {
 
-/// Record of a mandatory element in an xs:all whose content is untyped. Named "AnyElement" it is a wildcard, which takes any name.
+/// Record of a mandatory element in an xs:all whose content is untyped. Named "AnyElement" it is a wildcard, which
+/// takes any name.
 class ZRXML_API CElementInfoAllUntpdMnd : public CElementInfo {
 public:
-    CElementInfoAllUntpdMnd(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, const wchar_t* namespaceSpecification,
-        const wchar_t* targetNamespace);
+    CElementInfoAllUntpdMnd(const wchar_t* name, const wchar_t* namespaceUri, int propertyId,
+        const wchar_t* namespaceSpecification, const wchar_t* targetNamespace);
     ~CElementInfoAllUntpdMnd() override;
     bool ElementToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlWriter* writer) const override;
     bool ElementFromXml(const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlElement* parent, ZrXmlLib16::CXmlElement** current, const wchar_t* defaultNamespace,
         XmlElementType elementType) override;
-    bool Validate(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object, bool found,
-        bool check) const override;
+    bool Validate(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
+        bool found, bool check) const override;
 };
 
 } // namespace ZrXmlLib16Data

@@ -7,19 +7,20 @@
 
 namespace ZrXmlLib16Data {
 
-/// Record of an optional element in an xs:choice whose content is an abstract generated class, resolved to a concrete one on reading.
+/// Record of an optional element in an xs:choice whose content is an abstract generated class, resolved to a concrete
+/// one on reading.
 class ZRXML_API CElementInfoChoiceAbsClsOpt : public CElementInfo {
 public:
-    CElementInfoChoiceAbsClsOpt(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType,
-        AbstractClassFactory factory);
+    CElementInfoChoiceAbsClsOpt(const wchar_t* name, const wchar_t* namespaceUri, int propertyId,
+        XmlElementType childType, AbstractClassFactory factory);
     ~CElementInfoChoiceAbsClsOpt() override;
     bool ElementToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlWriter* writer) const override;
     bool ElementFromXml(const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlElement* parent, ZrXmlLib16::CXmlElement** current, const wchar_t* defaultNamespace,
         XmlElementType elementType) override;
-    void PseudoChildAttributeToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
-        ZrXmlLib16::CXmlWriter* writer) const override;
+    void PseudoChildAttributeToXml(const ZrXmlLib16::CSerializationContext& context,
+        const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlWriter* writer) const override;
 
 private:
     CAbstractClassRecordData m_data;

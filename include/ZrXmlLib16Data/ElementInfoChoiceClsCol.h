@@ -10,10 +10,11 @@ namespace ZrXmlLib16Data {
 /// Record of a repeated element in an xs:choice whose content is a generated class.
 class ZRXML_API CElementInfoChoiceClsCol : public CElementInfoChoiceCol {
 public:
-    CElementInfoChoiceClsCol(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType);
+    CElementInfoChoiceClsCol(
+        const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType);
     ~CElementInfoChoiceClsCol() override;
-    void PseudoChildAttributeToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
-        ZrXmlLib16::CXmlWriter* writer) const override;
+    void PseudoChildAttributeToXml(const ZrXmlLib16::CSerializationContext& context,
+        const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlWriter* writer) const override;
 
 private:
     XmlElementType m_childType;

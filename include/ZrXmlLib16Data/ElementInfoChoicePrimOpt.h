@@ -10,9 +10,9 @@ namespace ZrXmlLib16Data {
 /// Record of an optional element in an xs:choice whose content is a primitive value.
 class ZRXML_API CElementInfoChoicePrimOpt : public CElementInfo {
 public:
-    CElementInfoChoicePrimOpt(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool nillable, ItemType itemType,
-        const wchar_t* numberFormat, CWhitespaceUtils::WhitespaceRule rule, const CPrimitiveRestrictions& restrictions,
-        const wchar_t* defaultValue);
+    CElementInfoChoicePrimOpt(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool nillable,
+        ItemType itemType, const wchar_t* numberFormat, CWhitespaceUtils::WhitespaceRule rule,
+        const CPrimitiveRestrictions& restrictions, const wchar_t* defaultValue);
     ~CElementInfoChoicePrimOpt() override;
     bool ElementToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlWriter* writer) const override;

@@ -7,11 +7,12 @@
 
 namespace ZrXmlLib16Data {
 
-/// Record of an optional element in an xs:choice whose content is untyped. Named "AnyElement" it is a wildcard, which takes any name.
+/// Record of an optional element in an xs:choice whose content is untyped. Named "AnyElement" it is a wildcard, which
+/// takes any name.
 class ZRXML_API CElementInfoChoiceUntpdOpt : public CElementInfo {
 public:
-    CElementInfoChoiceUntpdOpt(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, const wchar_t* namespaceSpecification,
-        const wchar_t* targetNamespace);
+    CElementInfoChoiceUntpdOpt(const wchar_t* name, const wchar_t* namespaceUri, int propertyId,
+        const wchar_t* namespaceSpecification, const wchar_t* targetNamespace);
     ~CElementInfoChoiceUntpdOpt() override;
     bool ElementToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlWriter* writer) const override;

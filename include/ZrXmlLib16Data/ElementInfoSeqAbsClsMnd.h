@@ -7,7 +7,8 @@
 
 namespace ZrXmlLib16Data {
 
-/// Record of a mandatory element in an xs:sequence whose content is an abstract generated class, resolved to a concrete one on reading.
+/// Record of a mandatory element in an xs:sequence whose content is an abstract generated class, resolved to a concrete
+/// one on reading.
 class ZRXML_API CElementInfoSeqAbsClsMnd : public CElementInfo {
 public:
     CElementInfoSeqAbsClsMnd(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType,
@@ -18,8 +19,8 @@ public:
     bool ElementFromXml(const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlElement* parent, ZrXmlLib16::CXmlElement** current, const wchar_t* defaultNamespace,
         XmlElementType elementType) override;
-    void PseudoChildAttributeToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
-        ZrXmlLib16::CXmlWriter* writer) const override;
+    void PseudoChildAttributeToXml(const ZrXmlLib16::CSerializationContext& context,
+        const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlWriter* writer) const override;
 
 private:
     CAbstractClassRecordData m_data;

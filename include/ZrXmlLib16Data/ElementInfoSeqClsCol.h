@@ -12,8 +12,8 @@ class ZRXML_API CElementInfoSeqClsCol : public CElementInfoSeqCol {
 public:
     CElementInfoSeqClsCol(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType);
     ~CElementInfoSeqClsCol() override;
-    void PseudoChildAttributeToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
-        ZrXmlLib16::CXmlWriter* writer) const override;
+    void PseudoChildAttributeToXml(const ZrXmlLib16::CSerializationContext& context,
+        const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlWriter* writer) const override;
 
 private:
     XmlElementType m_childType;

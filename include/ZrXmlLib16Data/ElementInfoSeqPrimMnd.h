@@ -10,9 +10,9 @@ namespace ZrXmlLib16Data {
 /// Record of a mandatory element in an xs:sequence whose content is a primitive value.
 class ZRXML_API CElementInfoSeqPrimMnd : public CElementInfo {
 public:
-    CElementInfoSeqPrimMnd(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool nillable, ItemType itemType,
-        const wchar_t* numberFormat, CWhitespaceUtils::WhitespaceRule rule, const CPrimitiveRestrictions& restrictions,
-        const wchar_t* defaultValue);
+    CElementInfoSeqPrimMnd(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool nillable,
+        ItemType itemType, const wchar_t* numberFormat, CWhitespaceUtils::WhitespaceRule rule,
+        const CPrimitiveRestrictions& restrictions, const wchar_t* defaultValue);
     ~CElementInfoSeqPrimMnd() override;
     bool ElementToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlWriter* writer) const override;
