@@ -82,7 +82,10 @@ std::wstring Applied(CWhitespaceUtils::WhitespaceRule rule, const std::wstring& 
 {
     std::wstring scratch;
     const std::wstring& result = Whitespace::Apply(rule, text, scratch);
-    return &result == &scratch ? std::move(scratch) : text;
+    if (&result == &scratch) {
+        return scratch;
+    }
+    return text;
 }
 
 } // namespace

@@ -36,7 +36,14 @@ public:
     wchar_t TakeAny() { return AtEnd() ? L'\0' : *m_at++; }
 
     /// Takes a sign, "-" or, when allowed, "+"; true for "-".
-    bool TakeSign(bool plusAllowed) { return Take(L'-') || (plusAllowed && Take(L'+') && false); }
+    bool TakeSign(bool plusAllowed)
+    {
+        const bool negative = Take(L'-');
+        if (!negative && plusAllowed) {
+            Take(L'+');
+        }
+        return negative;
+    }
 
     /// Takes all digits that follow and returns their number.
     std::size_t SkipDigits()
