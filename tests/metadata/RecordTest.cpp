@@ -28,24 +28,22 @@ public:
 
 class RefusingObject : public TestObject {
 public:
-    RefusingObject()
-        : TestObject(Class(L"order").Prim(L"a").Opt())
-    {
-    }
+    using TestObject::TestObject;
 
 protected:
-    CElementInfo** GetClassElementInfo() const override { return m_records; }
-
-private:
-    mutable RefusingRecord m_record;
-    mutable CElementInfo* m_records[2] = {&m_record, nullptr};
+    CElementInfo** GetClassElementInfo() const override
+    {
+        static RefusingRecord record;
+        static CElementInfo* records[] = {&record, nullptr};
+        return records;
+    }
 };
 
 } // namespace
 
 TEST(Record, keeps_SilentStopAtARecordThatRefuses)
 {
-    RefusingObject object;
+    RefusingObject object(Class(L"order").Prim(L"a"));
     EXPECT_EQ("", FailureOf([&] { object.FromXml("<order><a>1</a><b/></order>"); }));
     EXPECT_EQ(L"order{}", DescribeObject(object));
     EXPECT_EQ("<order/>", Write(object));
@@ -62,13 +60,10 @@ TEST(Record, OperationsThatOnlySomeKindsHave)
     EXPECT_EQ("Zr: Cannot CheckRestriction for type: " + Narrow(value.GetType()),
         FailureOf([&] { plain.CheckRestriction(value); }));
     const CElementInfoAllEnumMnd mandatory(L"e", L"", 0, false, ColourToString, StringToColour, nullptr);
-    const CElementInfoAllEnumOpt optional(L"e", L"", 0, false, ColourToString, StringToColour, nullptr);
     EXPECT_EQ("Validation: Failed to find the mandatory element [e].",
         FailureOf([&] { mandatory.Validate(context, nullptr, false, true); }));
     EXPECT_TRUE(mandatory.Validate(context, nullptr, true, true));
-    EXPECT_TRUE(mandatory.Validate(context, nullptr, true, false));
     EXPECT_FALSE(mandatory.Validate(context, nullptr, false, false));
-    EXPECT_TRUE(optional.Validate(context, nullptr, false, true));
 }
 
 TEST(Record, keeps_DefaultNamespaceOfWildcards)
@@ -110,8 +105,4 @@ TEST(Record, SampleOfEverythingSurvivesTheRoundTrip)
     ASSERT_EQ("", FailureOf([&] { read.FromXml(text.c_str()); }));
     CheckSample(read);
     EXPECT_EQ(text, read.ToXml());
-    const CBinaryData bytes =
-        sample.ToXmlStream(true, false, Encoding_UTF8, EOL_LF, CSerializationContext(), Compression_GZip);
-    read.FromXmlStream(bytes);
-    CheckSample(read);
 }
