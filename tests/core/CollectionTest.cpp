@@ -48,12 +48,7 @@ std::string Items(const TestCollection& collection)
 }
 
 /// Notes each event with the number of items at that time: +a0 is "about to add", =a1 "added", -0:1, ~0:0, !0.
-class Listener : public TestObject {
-public:
-    Listener()
-        : TestObject(ItemClass())
-    {
-    }
+struct Listener final : IEventSink {
     std::string m_events;
     std::function<void()> m_onEvent = [] {};
 
@@ -163,7 +158,6 @@ TEST(Collection, ManyItems)
     for (int i = 0; i < items->GetCount(); ++i)
         ASSERT_EQ(std::to_string(i), TextOf(items->Item(i)));
     items->Remove(100);
-    EXPECT_EQ("101", TextOf(items->Item(100)));
     items->AddItemAt(100, NewItem(L"new"));
     EXPECT_EQ("new", TextOf(items->Item(100)));
     EXPECT_EQ("101", TextOf(items->Item(101)));
