@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "support/Failure.h"
-#include "support/TestText.h"
-
-#include <gtest/gtest.h>
 
 #include <functional>
 #include <pthread.h>
@@ -31,22 +28,34 @@ TestClass NodeClass()
 std::wstring Nested(int levels)
 {
     std::wstring text;
-    for (int i = 0; i < levels; ++i)
-        text += L"<n>";
-    for (int i = 0; i < levels; ++i)
-        text += L"</n>";
+    for (int i = 0; i < 2 * levels; ++i)
+        text += i < levels ? L"<n>" : L"</n>";
     return text;
 }
 
-CSmartPtr<TestObject> NestedObject(int levels)
+std::string WriteNested(int levels, const CSerializationContext& context = CSerializationContext())
 {
-    CSmartPtr<TestObject> object = NodeClass().Create();
-    while (--levels > 0) {
-        const CSmartPtr<TestObject> parent = NodeClass().Create();
-        (*parent)[L"n"].SetXmlObject(object);
-        object = parent;
-    }
-    return object;
+    TestObject object(NodeClass());
+    object.FromXml(Nested(levels).c_str());
+    return Write(object, context);
+}
+
+/// Writes an object that holds itself.
+std::string WriteCycle(const CSerializationContext& context = CSerializationContext())
+{
+    const CSmartPtr<TestObject> object = NodeClass().Create();
+    (*object)[L"n"].SetXmlObject(object);
+    const std::string failure = Write(*object, context);
+    (*object)[L"n"].Clear();
+    return failure;
+}
+
+std::size_t CountOf(const std::string& text, const std::string& part)
+{
+    std::size_t count = 0;
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + part.length()))
+        ++count;
+    return count;
 }
 
 void RunOnSmallStack(std::function<void()> action)
@@ -64,29 +73,20 @@ void RunOnSmallStack(std::function<void()> action)
     pthread_attr_destroy(&attributes);
 }
 
-std::size_t CountOf(const std::string& text, const std::string& part)
-{
-    std::size_t count = 0;
-    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + part.length()))
-        ++count;
-    return count;
-}
+const std::string tooDeep = "Zr: The element nesting is too deep.";
 
 } // namespace
 
 TEST(Depth, DefaultLimitFitsASmallThread)
 {
     RunOnSmallStack([] {
-        const std::wstring text = Nested(1024);
-        const CSmartPtr<TestObject> object = NodeClass().Create();
-        object->FromXml(text.c_str());
-        EXPECT_EQ(1024U, CountOf(Narrow(object->ToXml(false, false)), "<n"));
-        const std::string reading = Read(NodeClass(), Nested(1025).c_str());
-        EXPECT_EQ("Zr: The element nesting is too deep.\nPath: /n/n", reading.substr(0, 47));
+        EXPECT_EQ(1024U, CountOf(WriteNested(1024), "<n"));
+        const std::string reading = Read(NodeClass(), Nested(1025));
+        EXPECT_EQ(0U, reading.find(tooDeep + "\nPath: /n/n"));
         EXPECT_EQ(1025U, CountOf(reading, "/n"));
-        const std::string writing = Write(*NestedObject(1025));
+        const std::string writing = WriteCycle();
         EXPECT_EQ(1025U, CountOf(writing, "Validation: Failed to convert the element [n] to XML <- "));
-        EXPECT_EQ("Zr: The element nesting is too deep.", writing.substr(writing.rfind("Zr: ")));
+        EXPECT_EQ(tooDeep, writing.substr(writing.rfind("Zr: ")));
     });
 }
 
@@ -117,25 +117,16 @@ TEST(Depth, LimitIsTheContexts)
 {
     CSerializationContext context;
     context.SetMaxDepth(3);
-    EXPECT_EQ("n{n=n{n=n{}}}", Read(NodeClass(), Nested(3).c_str(), context));
-    EXPECT_EQ("Zr: The element nesting is too deep.\nPath: /n/n/n/n", Read(NodeClass(), Nested(4).c_str(), context));
-    EXPECT_EQ("<n><n><n/></n></n>", Write(*NestedObject(3), context));
-    EXPECT_NE(std::string::npos, Write(*NestedObject(4), context).find("The element nesting is too deep."));
+    EXPECT_EQ("<n><n><n/></n></n>", WriteNested(3, context));
+    EXPECT_EQ(4U, CountOf(WriteCycle(context), "Validation: "));
+    EXPECT_EQ(tooDeep + "\nPath: /n/n/n/n", Read(NodeClass(), Nested(4), context));
     // The count is given back also after a failure.
-    EXPECT_EQ("n{n=n{n=n{}}}", Read(NodeClass(), Nested(3).c_str(), context));
+    EXPECT_EQ("n{n=n{n=n{}}}", Read(NodeClass(), Nested(3), context));
     context.SetMaxDepth(1);
     EXPECT_EQ("n{}", Read(NodeClass(), L"<n/>", context));
-    EXPECT_EQ("Zr: The element nesting is too deep.\nPath: /n/n", Read(NodeClass(), Nested(2).c_str(), context));
-}
-
-TEST(Depth, InlineGroupsCountNothing)
-{
-    const TestClass innermost = Class(L"g3").Group().Prim(L"x");
-    const TestClass middle = Class(L"g2").Group().Cls(L"g3", innermost);
-    const TestClass type = Class(L"a").Cls(L"g2", middle);
-    CSerializationContext context;
-    context.SetMaxDepth(1);
-    EXPECT_EQ("a{g2=g2{g3=g3{x=1}}}", Read(type, L"<a><x>1</x></a>", context));
+    // Inline groups count nothing.
+    const TestClass inner = Class(L"g2").Group().Cls(L"g3", Class(L"g3").Group().Prim(L"x"));
+    EXPECT_EQ("a{g2=g2{g3=g3{x=1}}}", Read(Class(L"a").Cls(L"g2", inner), L"<a><x>1</x></a>", context));
 }
 
 TEST(Depth, EntryPointsInsideAWalkAddUp)
@@ -143,30 +134,20 @@ TEST(Depth, EntryPointsInsideAWalkAddUp)
     const TestClass type = Class(L"a").Prim(L"x").Opt();
     TestObject outer(type), inner(type);
     CSerializationContext context;
-    context.SetMaxDepth(1);
     outer.m_onAccess = [&](const std::wstring&, bool) { inner.ToXml(false, false, EOL_LF, context); };
-    EXPECT_NE(std::string::npos, Write(outer, context).find("The element nesting is too deep."));
+    context.SetMaxDepth(1);
+    EXPECT_NE(std::string::npos, Write(outer, context).find(tooDeep));
     context.SetMaxDepth(2);
     EXPECT_EQ("<a/>", Write(outer, context));
-}
-
-TEST(Depth, CyclicGraphEnds)
-{
-    const CSmartPtr<TestObject> object = NodeClass().Create();
-    (*object)[L"n"].SetXmlObject(object);
-    CSerializationContext context;
-    context.SetMaxDepth(50);
-    EXPECT_EQ(51U, CountOf(Write(*object, context), "Validation: "));
-    (*object)[L"n"].Clear();
 }
 
 TEST(Depth, UnknownContentMayBeNestedWithoutLimit)
 {
     const std::wstring deep = Nested(100000);
     const TestClass type = Class(L"a").Prim(L"x").Opt();
-    EXPECT_EQ(LeftOver("/a", "a", "n"), Read(type, (L"<a>" + deep + L"</a>").c_str()));
+    EXPECT_EQ(LeftOver("/a", "a", "n"), Read(type, L"<a>" + deep + L"</a>"));
     CSerializationContext ignoring;
     ignoring.SetIgnoreUnknownElements(true);
-    EXPECT_EQ("a{x=1}", Read(type, (L"<a>" + deep + L"<x>1</x></a>").c_str(), ignoring));
-    EXPECT_EQ("Zr: The element nesting is too deep.\nPath: /n/n/n", Read(NodeClass(), deep.c_str()).substr(0, 49));
+    EXPECT_EQ("a{x=1}", Read(type, L"<a>" + deep + L"<x>1</x></a>", ignoring));
+    EXPECT_EQ(0U, Read(NodeClass(), deep).find(tooDeep + "\nPath: /n/n/n"));
 }

@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "support/Failure.h"
-#include "support/TestText.h"
-
-#include <gtest/gtest.h>
 
 using namespace ZrXmlLib16;
 using namespace TestSupport;
@@ -16,18 +13,8 @@ const std::string failedAttributes =
 
 TEST(AttributeRecord, keeps_RequiredAttributesThatEqualTheirDefault)
 {
-    const TestClass type = Class(L"order")
-                               .Attr(L"optional")
-                               .Default(L"d")
-                               .Attr(L"required")
-                               .Required()
-                               .Default(L"d")
-                               .EnumAttr(L"colour")
-                               .Default(L"red")
-                               .EnumAttr(L"must")
-                               .Required()
-                               .Default(L"red")
-                               .Attr(L"none");
+    TestClass type = Class(L"order").Attr(L"optional").Default(L"d").Attr(L"required").Required().Default(L"d");
+    type.EnumAttr(L"colour").Default(L"red").EnumAttr(L"must").Required().Default(L"red").Attr(L"none");
     TestObject order(type);
     order.Set(L"optional", L"d").Set(L"required", L"d").Set(L"colour", L"red").Set(L"must", L"red");
     CSerializationContext brief;
@@ -43,8 +30,6 @@ TEST(AttributeRecord, RequiredAttributesNeedAValue)
     for (const TestClass& type : {Class(L"order").Attr(L"a").Required(), Class(L"order").EnumAttr(L"a").Required()}) {
         TestObject order(type);
         EXPECT_EQ(failedAttributes + "Zr: Invalid Type 0 to convert to string", Write(order));
-        order[L"a"].SetNil();
-        EXPECT_EQ(0U, Write(order).find(failedAttributes));
         EXPECT_EQ(
             Unprocessed("/order", "Validation: Failed to find the required Attribute [a]."), Read(type, L"<order/>"));
     }
@@ -55,17 +40,13 @@ TEST(AttributeRecord, RequiredAttributesNeedAValue)
 
 TEST(AttributeRecord, FacetsAndFormatsApplyOnWriting)
 {
-    const TestClass type = Class(L"order").Attr(L"a").MaxLength(2).Attr(L"f", ItemType_r8).Format(L"%.3f");
-    EXPECT_EQ("order{a=longer,f=1.5}", Read(type, L"<order a='longer' f='1.5'/>"));
+    const TestClass type =
+        Class(L"order").Attr(L"a").MaxLength(2).Default(L"longer").Attr(L"f", ItemType_r8).Format(L"%.3f");
     TestObject order(type);
-    order.Set(L"f", L"1.5").Set(L"a", L"ok");
-    EXPECT_EQ("<order a=\"ok\" f=\"1.500\"/>", Write(order));
-    order.Set(L"a", L"longer");
+    order.FromXml("<order a='longer' f='1.5'/>");
     EXPECT_EQ(failedAttributes + "Zr: Invalid Value for a [longer].", Write(order));
-    const TestClass defaulted = Class(L"order").Attr(L"a").MaxLength(2).Default(L"longer");
-    TestObject equal(defaulted);
-    equal.Set(L"a", L"longer");
-    EXPECT_EQ(failedAttributes + "Zr: Invalid Value for a [longer].", Write(equal));
+    order.Set(L"a", L"ok");
+    EXPECT_EQ("<order a=\"ok\" f=\"1.500\"/>", Write(order));
 }
 
 TEST(AttributeRecord, keeps_PrimitivesThatNeverIgnoreNamespaces)
@@ -99,8 +80,7 @@ TEST(AttributeRecord, WildcardsCollectWhatNoOtherRecordTakes)
 
 TEST(AttributeRecord, WildcardPropertyMustBeAnAttributeCollection)
 {
-    const TestClass type = Class(L"order").AnyAttr(L"any", L"##any");
-    TestObject order(type);
+    TestObject order(Class(L"order").AnyAttr(L"any", L"##any"));
     order.m_onAccess = [&](const std::wstring&, bool) {
         order[L"any"].SetXmlCollection(new TestCollection(L"", L"", 0, -1, nullptr));
     };
@@ -118,28 +98,25 @@ TEST(AttributeRecord, MoreRecordsThanFitABitmap)
         type.Attr(name.c_str()).Required();
         xml += i == 100 ? L"" : L" " + name + L"='x'";
     }
-    EXPECT_EQ(Unprocessed("/order", "Validation: Failed to find the required Attribute [a100]."),
-        Read(type, (xml + L"/>").c_str()));
-    EXPECT_EQ("order{a0=x", Read(type, (xml + L" a100=''/>").c_str()).substr(0, 10));
+    EXPECT_EQ(
+        Unprocessed("/order", "Validation: Failed to find the required Attribute [a100]."), Read(type, xml + L"/>"));
+    EXPECT_EQ("order{a0=x", Read(type, xml + L" a100=''/>").substr(0, 10));
 }
 
 TEST(AttributeCol, KeepsOneValuePerName)
 {
     const CSmartPtr<CAttributeCol> attributes(new CAttributeCol(L"", L"##other", L"urn:t"));
-    attributes->Add(L"urn:o", L"1", L"a");
-    attributes->Add(L"urn:o", L"2", L"b");
-    attributes->Add(L"urn:p", L"3", L"a");
+    for (const auto& name : {std::pair(L"urn:o", L"a"), std::pair(L"urn:o", L"b"), std::pair(L"urn:p", L"a")})
+        attributes->Add(name.first, L"1", name.second);
     EXPECT_EQ(L"4", attributes->Add(L"urn:o", L"4", L"a")->GetValue());
     EXPECT_EQ(3, attributes->GetCount());
     EXPECT_EQ(attributes->Item(0), attributes->Find(L"a", L"urn:o"));
     EXPECT_EQ(nullptr, attributes->Find(L"a", L""));
-    EXPECT_EQ(L"urn:t", attributes->GetTargetNamespace());
-    EXPECT_EQ("InvalidParam", FailureOf([&] { attributes->Add(L"urn:o", L"1", L""); }).substr(0, 12));
-    EXPECT_EQ("InvalidNamespace", FailureOf([&] { attributes->Add(L"urn:t", L"1", L"a"); }).substr(0, 16));
+    EXPECT_EQ(
+        "InvalidParam: Attribute Name must have a value", FailureOf([&] { attributes->Add(L"urn:o", L"1", L""); }));
+    EXPECT_EQ(0U, FailureOf([&] { attributes->Add(L"urn:t", L"1", L"a"); }).find("InvalidNamespace: The namespace "));
     EXPECT_EQ("InvalidParam: Index 3 is out of range, use 0 - 3", FailureOf([&] { attributes->Item(3); }));
     attributes->Remove(0);
     EXPECT_EQ(L"b", attributes->Item(0)->GetName());
     EXPECT_EQ("InvalidParam: Index -1 is out of range, use 0 - 2", FailureOf([&] { attributes->Remove(-1); }));
-    attributes->Clear();
-    EXPECT_EQ(0, attributes->GetCount());
 }

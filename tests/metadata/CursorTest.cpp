@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Which documents each group of records accepts, judged by regular expressions over all short documents.
 #include "support/Failure.h"
-#include "support/TestText.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cctype>
-#include <regex.h>
-#include <string>
+#include <regex>
 
 using namespace ZrXmlLib16;
 using namespace TestSupport;
@@ -26,20 +22,14 @@ std::vector<std::string> AllTexts(const std::string& letters, std::size_t length
     return texts;
 }
 
-std::string Elements(const std::string& letters)
-{
-    std::string xml;
-    for (char letter : letters)
-        xml += std::string("<") + letter + "/>";
-    return xml;
-}
-
 /// The elements that arrived in the object, in declared order, or the failure.
 std::string ReadBack(const TestClass& type, const std::string& letters, const CSerializationContext& context)
 {
     const CSmartPtr<TestObject> object = type.Create(L"r");
-    const std::string xml = "<r>" + Elements(letters) + "</r>";
-    const std::string failure = FailureOf([&] { object->FromXml(xml.c_str(), context); });
+    std::string xml = "<r>";
+    for (char letter : letters)
+        xml += std::string("<") + letter + "/>";
+    const std::string failure = FailureOf([&] { object->FromXml((xml + "</r>").c_str(), context); });
     if (!failure.empty())
         return failure;
     // Values read "a=", children and items "a{"; longer names are groups.
@@ -52,12 +42,6 @@ std::string ReadBack(const TestClass& type, const std::string& letters, const CS
         if (isName(at) && !std::isalpha(description[at - 1]) && (next == '{' || (next == '=' && !isHolder)))
             text += description[at];
     }
-    return text;
-}
-
-std::string Without(std::string text, char letter)
-{
-    text.erase(std::remove(text.begin(), text.end(), letter), text.end());
     return text;
 }
 
@@ -78,21 +62,16 @@ TestClass Group(const wchar_t* name)
     return Class(name).Group();
 }
 
-/// An extended regular expression over whole texts.
-class Language {
-public:
-    explicit Language(const std::string& expression)
-    {
-        EXPECT_EQ(0, regcomp(&m_compiled, ("^(" + expression + ")$").c_str(), REG_EXTENDED | REG_NOSUB));
+/// Only the texts of the language arrive completely.
+void ExpectLanguage(const std::string& language, const TestClass& type, const CSerializationContext& context)
+{
+    const std::regex expression(language);
+    for (const std::string& text : AllTexts("abcdx", 4)) {
+        const std::string result = ReadBack(type, text, context);
+        ASSERT_EQ(std::regex_match(text, expression), Sorted(result) == Sorted(text))
+            << language << ": " << text << " " << result;
     }
-    ~Language() { regfree(&m_compiled); }
-    Language(const Language&) = delete;
-    Language& operator=(const Language&) = delete;
-    bool Has(const std::string& text) const { return regexec(&m_compiled, text.c_str(), 0, nullptr, 0) == 0; }
-
-private:
-    regex_t m_compiled;
-};
+}
 
 class Cursor : public testing::Test {
 protected:
@@ -101,9 +80,7 @@ protected:
         m_tolerant.SetIgnoreUnknownElements(true);
         m_incomplete.SetIgnoreMissingMandatoryElements(true);
     }
-    CSerializationContext m_strict;
-    CSerializationContext m_tolerant;
-    CSerializationContext m_incomplete;
+    CSerializationContext m_strict, m_tolerant, m_incomplete;
 };
 
 } // namespace
@@ -123,7 +100,6 @@ TEST_F(Cursor, SequencesAcceptExactlyTheirLanguage)
     } models[] = {
         {"", "", Class(L"r")},
         {"ab?c*d", "a?b?c*d?", Class(L"r").Prim(L"a").Prim(L"b").Opt().Prim(L"c").Col().Prim(L"d")},
-        {"ab?c+", "a?b?c+", Class(L"r").Cls(L"a", Leaf()).Cls(L"b", Leaf()).Opt().Cls(L"c", Leaf()).Col(1)},
         {"a{1,2}b{2}", "a{1,2}b{2}", Class(L"r").Plain(L"a", Leaf()).Col(1, 2).Cls(L"b", Leaf()).Col(2, 2)},
         {"abc?", "(ab)?c?", Class(L"r").Cls(L"pair", pair).Prim(L"c").Opt()},
         {"(ab)?c", "(ab)?c?", Class(L"r").Cls(L"pair", pair).Opt().Prim(L"c")},
@@ -142,24 +118,14 @@ TEST_F(Cursor, SequencesAcceptExactlyTheirLanguage)
         {"[ab]?c", "[ab]?c?", Class(L"r").Cls(L"g", Group(L"").Choice().Prim(L"a").Prim(L"b")).Prim(L"c")},
     };
     for (const auto& model : models) {
-        const Language language(model.language), incomplete(model.incomplete);
-        for (const std::string& text : AllTexts("abcdx", 4)) {
-            const std::string strict = ReadBack(model.type, text, m_strict);
-            ASSERT_EQ(language.Has(text), Sorted(strict) == Sorted(text))
-                << model.language << ": " << text << " " << strict;
-            const std::string lax = ReadBack(model.type, text, m_incomplete);
-            ASSERT_EQ(incomplete.Has(text), Sorted(lax) == Sorted(text))
-                << model.incomplete << ": " << text << " " << lax;
-        }
+        ExpectLanguage(model.language, model.type, m_strict);
+        ExpectLanguage(model.incomplete, model.type, m_incomplete);
     }
 }
 
 TEST_F(Cursor, UnknownElementsBetweenKnownOnes)
 {
-    const struct {
-        const char* language;
-        TestClass type;
-    } models[] = {
+    const std::pair<const char*, TestClass> models[] = {
         {"a", Class(L"r").Prim(L"a")},
         {"ab?c?", Class(L"r").Prim(L"a").Prim(L"b").Opt().Prim(L"c").Opt()},
         {"b?a", Class(L"r").Prim(L"b").Opt().Prim(L"a")},
@@ -167,12 +133,11 @@ TEST_F(Cursor, UnknownElementsBetweenKnownOnes)
         {"a?b?", Class(L"r").Cls(L"a", Leaf()).Opt().Prim(L"b").Opt()},
     };
     for (const auto& model : models) {
-        const Language language(model.language);
+        const std::regex language(model.first);
         for (const std::string& text : AllTexts("abcdx", 5)) {
-            const std::string known = Without(text, 'x');
-            if (language.Has(known)) {
-                ASSERT_EQ(known, ReadBack(model.type, text, m_tolerant)) << model.language << ": " << text;
-            }
+            const std::string known = std::regex_replace(text, std::regex("x"), "");
+            ASSERT_TRUE(!std::regex_match(known, language) || known == ReadBack(model.second, text, m_tolerant))
+                << model.first << ": " << text;
         }
     }
 }
@@ -189,7 +154,6 @@ TEST_F(Cursor, UnknownElementsThatCostKnownOnes)
         // The skip of a mandatory record passes over the rest of a collection.
         {"axab", "ab", Class(L"r").Prim(L"a").Col().Prim(L"b")},
         {"axa", "aa", Class(L"r").Prim(L"a").Col()},
-        {"xaxxax", "aa", Class(L"r").Prim(L"a").Col()},
         {"ba", "a", Class(L"r").Prim(L"a").Prim(L"b").Opt()},
         // An inline group that was read is not read again.
         {"abxab", "ab", Class(L"r").Cls(L"pair", pair)},
@@ -198,13 +162,10 @@ TEST_F(Cursor, UnknownElementsThatCostKnownOnes)
         {"axc", "ac", Class(L"r").Cls(L"option", option).Prim(L"c")},
         {"xab", "ab", Class(L"r").Cls(L"pair", pair)},
         {"axb", "ab", Class(L"r").Cls(L"pair", pair)},
-        {"xx", "", Class(L"r")},
         {"x", "", Class(L"r").Cls(L"option", option).Opt()},
     };
     for (const auto& row : cases)
         EXPECT_EQ(row.expected, ReadBack(row.type, row.text, m_tolerant)) << row.text;
-    EXPECT_EQ(
-        "Zr: Failed to find the required child element [b].\nPath: /r", ReadBack(cases[0].type, "axa", m_tolerant));
 }
 
 TEST_F(Cursor, AllGroupsAcceptAnyOrder)
@@ -230,32 +191,11 @@ TEST_F(Cursor, AllGroupsAcceptAnyOrder)
     }
 }
 
-TEST_F(Cursor, AllGroupFailures)
-{
-    const TestClass type = Class(L"r").All().Prim(L"a").Prim(L"c").Col(2, 3).Enum(L"e").Opt();
-    const struct {
-        const char* text;
-        std::string failure;
-    } cases[] = {
-        {"cc", Unprocessed("/r", "Validation: Failed to find the mandatory element [a].")},
-        {"ax", LeftOver("/r", "r", "x")},
-        {"x", LeftOver("/r", "r", "x")},
-        {"aa", LeftOver("/r", "r", "a")},
-        {"a", Unprocessed("/r", "Validation: The Minimum number of [c] elements allowed in this collection is 2")},
-        {"acccc", Unprocessed("/r", "Validation: The Maximum number of [c] elements allowed in this collection is 3")},
-    };
-    for (const auto& row : cases)
-        EXPECT_EQ(row.failure, ReadBack(type, row.text, m_strict)) << row.text;
-}
-
 TEST_F(Cursor, ChoicesTakeOneAlternative)
 {
     const TestClass pair = Group(L"pair").Prim(L"a").Prim(L"b"), other = Group(L"other").Prim(L"a").Prim(L"c");
     const TestClass repeated = Group(L"repeated").Prim(L"b").Col(1).Prim(L"a");
-    const struct {
-        const char* language;
-        TestClass type;
-    } models[] = {
+    const std::pair<const char*, TestClass> models[] = {
         {"[abc]?", Class(L"r").Choice().Prim(L"a").Cls(L"b", Leaf()).Prim(L"c")},
         {"a|b{1,2}|c",
             Class(L"r").Choice().Prim(L"b").Col(1, 2).Cls(L"a", Leaf()).Col(1, 1).Plain(L"c", Leaf()).Col(1, 1)},
@@ -264,13 +204,8 @@ TEST_F(Cursor, ChoicesTakeOneAlternative)
         {"(ab)*|ac|d", Class(L"r").Choice().Cls(L"pair", pair).Col().Cls(L"other", other).Prim(L"d")},
         {"(b+a|b)?", Class(L"r").Choice().Cls(L"repeated", repeated).Prim(L"b")},
     };
-    for (const auto& model : models) {
-        const Language language(model.language);
-        for (const std::string& text : AllTexts("abcdx", 4)) {
-            const std::string result = ReadBack(model.type, text, m_strict);
-            ASSERT_EQ(language.Has(text), result == text) << model.language << ": " << text << " " << result;
-        }
-    }
+    for (const auto& model : models)
+        ExpectLanguage(model.first, model.second, m_strict);
 }
 
 TEST_F(Cursor, ChoiceSkipsToItsFirstAlternative)
@@ -288,43 +223,44 @@ TEST_F(Cursor, ChoiceSkipsToItsFirstAlternative)
     }
 }
 
-TEST_F(Cursor, EmptyChoices)
+TEST_F(Cursor, Failures)
 {
-    const TestClass strict = Class(L"r").Choice().Prim(L"a").Col(1).Prim(L"b").Col(2);
+    const TestClass choice = Class(L"r").Choice().Prim(L"a").Col(1).Prim(L"b").Col(2);
+    const TestClass lax = Class(L"r").Choice().Prim(L"a");
+    const TestClass all = Class(L"r").All().Prim(L"a").Prim(L"c").Col(2, 3).Enum(L"e").Opt();
+    const TestClass pair = Group(L"pair").Prim(L"a").Prim(L"b");
+    const TestClass sequence = Class(L"r").Cls(L"pair", pair).Cls(L"c", Leaf()).Prim(L"d");
     const std::string empty =
         "Zr: No child elements within the element [r] were populated. The element represents a choice, so one and only "
         "one element should be populated. The element contained no sutable child elements\nPath: /r";
-    const std::string leftover = LeftOver("/r", "r", "x");
+    const std::string leftover = LeftOver("/r", "r", "x"), invalid = Unprocessed("/r", "Validation: ");
+    const std::string missing = "Zr: Failed to find the required child element [";
     CSerializationContext lenient;
     lenient.SetIgnoreMissingChoice(true);
-    EXPECT_EQ(empty, ReadBack(strict, "", m_strict));
-    EXPECT_EQ(empty, ReadBack(strict, "x", m_strict));
-    EXPECT_EQ(empty, ReadBack(strict, "xx", m_tolerant));
-    EXPECT_EQ("", ReadBack(strict, "", lenient));
-    EXPECT_EQ(leftover, ReadBack(strict, "x", lenient));
-    EXPECT_EQ(leftover, ReadBack(Class(L"r").Choice().Prim(L"a"), "x", m_strict));
-    EXPECT_EQ(leftover, ReadBack(Class(L"r").Choice().Prim(L"a"), "ax", m_strict));
-    EXPECT_EQ(Unprocessed("/r", "Validation: The Minimum number of [b] elements allowed in this collection is 2"),
-        ReadBack(strict, "b", m_strict));
-}
-
-TEST_F(Cursor, SequenceFailures)
-{
-    const TestClass pair = Group(L"pair").Prim(L"a").Prim(L"b");
-    const TestClass type = Class(L"r").Cls(L"pair", pair).Cls(L"c", Leaf()).Prim(L"d");
     const struct {
+        TestClass type;
+        const CSerializationContext& context;
         const char* text;
         std::string failure;
     } cases[] = {
-        {"", "Zr: Failed to find the required child element [pair].\nPath: /r"},
-        {"acd", "Zr: Failed to find the required child element [pair].\nPath: /r"},
-        {"ab", "Zr: Failed to find the required child element [c].\nPath: /r"},
-        {"abcx", "Zr: Failed to find the required child element [d].\nPath: /r"},
-        {"abcdx", LeftOver("/r", "r", "x")},
+        {choice, m_strict, "", empty},
+        {choice, m_tolerant, "xx", empty},
+        {choice, m_strict, "b", invalid + "The Minimum number of [b] elements allowed in this collection is 2"},
+        {choice, lenient, "", ""},
+        {choice, lenient, "x", leftover},
+        {lax, m_strict, "ax", leftover},
+        {all, m_strict, "cc", invalid + "Failed to find the mandatory element [a]."},
+        {all, m_strict, "aa", LeftOver("/r", "r", "a")},
+        {all, m_strict, "a", invalid + "The Minimum number of [c] elements allowed in this collection is 2"},
+        {all, m_strict, "acccc", invalid + "The Maximum number of [c] elements allowed in this collection is 3"},
+        {sequence, m_strict, "acd", missing + "pair].\nPath: /r"},
+        {sequence, m_strict, "ab", missing + "c].\nPath: /r"},
+        {sequence, m_strict, "abcx", missing + "d].\nPath: /r"},
+        {sequence, m_tolerant, "abcx", missing + "d].\nPath: /r"},
+        {sequence, m_strict, "abcdx", leftover},
     };
     for (const auto& row : cases)
-        EXPECT_EQ(row.failure, ReadBack(type, row.text, m_strict)) << row.text;
-    EXPECT_EQ("Zr: Failed to find the required child element [d].\nPath: /r", ReadBack(type, "abcx", m_tolerant));
+        EXPECT_EQ(row.failure, ReadBack(row.type, row.text, row.context)) << row.text;
 }
 
 TEST_F(Cursor, CollectionCountsMayBeIgnored)

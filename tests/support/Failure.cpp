@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/Failure.h"
 
-#include "support/TestText.h"
-
 #include <typeinfo>
 
 using namespace ZrXmlLib16;
@@ -11,36 +9,33 @@ namespace TestSupport {
 
 namespace {
 
-const char* TypeName(const CZrException& exception)
+/// Cut out of the mangled name.
+std::string TypeName(const CZrException& exception)
 {
-    const std::type_info& type = typeid(exception);
-    if (type == typeid(CZrValidationException))
-        return "Validation";
-    if (type == typeid(CZrInvalidValueException))
-        return "InvalidValue";
-    if (type == typeid(CZrInvalidNamespaceException))
-        return "InvalidNamespace";
-    if (type == typeid(CZrInvalidParamException))
-        return "InvalidParam";
-    if (type == typeid(CZrInvalidStateException))
-        return "InvalidState";
-    if (type == typeid(CZrOverFlowException))
-        return "OverFlow";
-    return type == typeid(CZrException) ? "Zr" : "?";
+    const std::string mangled = typeid(exception).name();
+    const std::size_t begin = mangled.find("CZr") + 3;
+    const std::string name = mangled.substr(begin, mangled.find("Exception") - begin);
+    return name.empty() ? "Zr" : name;
 }
 
 } // namespace
 
-std::string FailureOf(const std::function<void()>& action)
+std::string ChainOf(const CZrException& exception)
 {
     std::string chain;
+    for (const CZrException* part = &exception; part; part = part->GetInnerException())
+        chain += (chain.empty() ? "" : " <- ") + TypeName(*part) + ": " + Narrow(part->GetMessage());
+    return chain;
+}
+
+std::string FailureOf(const std::function<void()>& action)
+{
     try {
         action();
     } catch (const CZrException& exception) {
-        for (const CZrException* part = &exception; part; part = part->GetInnerException())
-            chain += (chain.empty() ? "" : " <- ") + std::string(TypeName(*part)) + ": " + Narrow(part->GetMessage());
+        return ChainOf(exception);
     }
-    return chain;
+    return "";
 }
 
 std::string Unprocessed(const std::string& path, const std::string& inner)
@@ -54,10 +49,10 @@ std::string LeftOver(const std::string& path, const std::string& parent, const s
         + "] remains un processed\nPath: " + path;
 }
 
-std::string Read(const TestClass& type, const wchar_t* xml, const CSerializationContext& context)
+std::string Read(const TestClass& type, const std::wstring& xml, const CSerializationContext& context)
 {
     const CSmartPtr<TestObject> object = type.Create();
-    const std::string failure = FailureOf([&] { object->FromXml(xml, context); });
+    const std::string failure = FailureOf([&] { object->FromXml(xml.c_str(), context); });
     return failure.empty() ? Narrow(DescribeObject(*object)) : failure;
 }
 

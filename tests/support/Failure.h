@@ -3,14 +3,18 @@
 #define TESTS_SUPPORT_FAILURE_H
 
 #include "support/TestObject.h"
+#include "support/TestText.h"
 
 #include <functional>
 #include <string>
 
 namespace TestSupport {
 
-/// The whole exception chain that the action ends with, outermost first: "Validation: message\nPath: /a <- Zr:
-/// message". Types are written without "CZr" and "Exception"; the base class is "Zr". Empty when nothing is thrown.
+/// An exception and its inner ones, outermost first: "Validation: message\nPath: /a <- Zr: message". Types are written
+/// without "CZr" and "Exception"; the base class is "Zr".
+std::string ChainOf(const ZrXmlLib16::CZrException& exception);
+
+/// The chain that the action ends with; empty when nothing is thrown.
 std::string FailureOf(const std::function<void()>& action);
 
 /// The texts of FailureOf that recur: the wrapper that names the element of a class, and the report of a child left
@@ -19,7 +23,7 @@ std::string Unprocessed(const std::string& path, const std::string& inner);
 std::string LeftOver(const std::string& path, const std::string& parent, const std::string& child);
 
 /// Reads the text into a new object: its description, or the failure.
-std::string Read(const TestClass& type, const wchar_t* xml,
+std::string Read(const TestClass& type, const std::wstring& xml,
     const ZrXmlLib16::CSerializationContext& context = ZrXmlLib16::CSerializationContext::m_defaultContext);
 
 /// The unformatted text without header, or the failure.

@@ -3,7 +3,7 @@
 #define TESTS_SUPPORT_RECORDINGWRITER_H
 
 #include "ZrXmlLib16/XmlWriter.h"
-#include "support/TestText.h"
+#include "support/Failure.h"
 
 #include <string>
 
@@ -44,6 +44,16 @@ private:
     static Text Braced(const Text& uri) { return uri.empty() ? uri : L"{" + uri + L"}"; }
     void Note(const Text& event) { m_events += (m_events.empty() ? "" : " ") + Narrow(event); }
 };
+
+/// The events of the object, or the failure.
+inline std::string Events(const TestObject& object, const ZrXmlLib16::CSerializationContext& context = {},
+    bool isRoot = true, bool isOptional = false)
+{
+    RecordingWriter writer;
+    const std::string failure =
+        FailureOf([&] { object.ToXml_Int(&writer, isRoot, object.GetNamespace().c_str(), context, isOptional); });
+    return failure.empty() ? writer.m_events : failure;
+}
 
 } // namespace TestSupport
 

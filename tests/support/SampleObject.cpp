@@ -14,34 +14,19 @@ struct SampleValue {
     const wchar_t* text;
 };
 
-const SampleValue sampleValues[] = {
-    {ItemType_hexBinary, L"hexBinary", L"00FF7F"},
-    {ItemType_base64Binary, L"base64Binary", L"AP9/QQ=="},
-    {ItemType_i1, L"i1", L"-128"},
-    {ItemType_i2, L"i2", L"-32768"},
-    {ItemType_i4, L"i4", L"-2147483648"},
-    {ItemType_i8, L"i8", L"-9223372036854775808"},
-    {ItemType_ui1, L"ui1", L"255"},
-    {ItemType_ui2, L"ui2", L"65535"},
-    {ItemType_ui4, L"ui4", L"4294967295"},
-    {ItemType_ui8, L"ui8", L"18446744073709551615"},
-    {ItemType_r4, L"r4", L"1.5"},
-    {ItemType_r8, L"r8", L"-0.015625"},
-    {ItemType_duration, L"duration", L"P1Y2M3DT4H5M6S"},
-    {ItemType_yearMonth, L"yearMonth", L"2024-05"},
-    {ItemType_monthDay, L"monthDay", L"--02-29"},
-    {ItemType_year, L"year", L"2024"},
-    {ItemType_month, L"month", L"--05"},
-    {ItemType_day, L"day", L"---17"},
-    {ItemType_date, L"date", L"2024-02-29"},
-    {ItemType_datetime, L"datetime", L"2024-02-29T23:59:58"},
-    {ItemType_time, L"time", L"23:59:58"},
-    {ItemType_char, L"char", L"x"},
-    {ItemType_string, L"string", L"a <b> & caf\u00e9 \u20ac"},
-    {ItemType_boolean, L"boolean", L"true"},
-    {ItemType_decimal, L"decimal", L"-12345678901234567890.125"},
-    {ItemType_integer, L"integer", L"123456789012345678901234567890"},
-};
+const SampleValue sampleValues[] = {{ItemType_hexBinary, L"hexBinary", L"00FF7F"},
+    {ItemType_base64Binary, L"base64Binary", L"AP9/QQ=="}, {ItemType_i1, L"i1", L"-128"},
+    {ItemType_i2, L"i2", L"-32768"}, {ItemType_i4, L"i4", L"-2147483648"},
+    {ItemType_i8, L"i8", L"-9223372036854775808"}, {ItemType_ui1, L"ui1", L"255"}, {ItemType_ui2, L"ui2", L"65535"},
+    {ItemType_ui4, L"ui4", L"4294967295"}, {ItemType_ui8, L"ui8", L"18446744073709551615"},
+    {ItemType_r4, L"r4", L"1.5"}, {ItemType_r8, L"r8", L"-0.015625"},
+    {ItemType_duration, L"duration", L"P1Y2M3DT4H5M6S"}, {ItemType_yearMonth, L"yearMonth", L"2024-05"},
+    {ItemType_monthDay, L"monthDay", L"--02-29"}, {ItemType_year, L"year", L"2024"},
+    {ItemType_month, L"month", L"--05"}, {ItemType_day, L"day", L"---17"}, {ItemType_date, L"date", L"2024-02-29"},
+    {ItemType_datetime, L"datetime", L"2024-02-29T23:59:58"}, {ItemType_time, L"time", L"23:59:58"},
+    {ItemType_char, L"char", L"x"}, {ItemType_string, L"string", L"a <b> & caf\u00e9 \u20ac"},
+    {ItemType_boolean, L"boolean", L"true"}, {ItemType_decimal, L"decimal", L"-12345678901234567890.125"},
+    {ItemType_integer, L"integer", L"123456789012345678901234567890"}};
 
 TestClass ValuesClass()
 {
@@ -56,31 +41,11 @@ TestClass ValuesClass()
 // The same records in each of the three groups; a choice holds one of them, so it is repeated to hold all.
 TestClass GroupClass(const wchar_t* name, const TestClass& leaf)
 {
-    return Class(name)
-        .Prim(L"prim", ItemType_i4)
-
-        .Prim(L"primOpt")
-        .Opt()
-        .Prim(L"primCol", ItemType_i4)
-        .Col()
-        .Enum(L"enum")
-
-        .Enum(L"enumOpt")
-        .Opt()
-        .Enum(L"enumCol")
-        .Col()
-        .Cls(L"cls", leaf)
-
-        .Cls(L"clsOpt", leaf)
-        .Opt()
-        .Cls(L"clsCol", leaf)
-        .Col()
-        .AbsCls(L"absCls")
-
-        .AbsCls(L"absClsOpt")
-        .Opt()
-        .AbsCls(L"absClsCol")
-        .Col();
+    TestClass group = Class(name);
+    group.Prim(L"prim", ItemType_i4).Prim(L"primOpt").Opt().Prim(L"primCol", ItemType_i4).Col();
+    group.Enum(L"enum").Enum(L"enumOpt").Opt().Enum(L"enumCol").Col();
+    group.Cls(L"cls", leaf).Cls(L"clsOpt", leaf).Opt().Cls(L"clsCol", leaf).Col();
+    return group.AbsCls(L"absCls").AbsCls(L"absClsOpt").Opt().AbsCls(L"absClsCol").Col();
 }
 
 void FillGroup(TestObject* group, const TestClass& derived)
@@ -113,21 +78,11 @@ TestClass SampleClass()
         const TestClass pseudo =
             Class(L"samplePseudo").Pseudo().AnyAttributes().Prim(L"inner", ItemType_i4).Attr(L"innerId");
         const TestClass group = Class(L"sampleGroup").Group().AnyAttributes().Choice().Prim(L"either").Prim(L"or");
-        return TestClass(Class(L"sample")
-                             .AnyAttributes()
-                             .Cls(L"values", ValuesClass())
-                             .Cls(L"sequence", GroupClass(L"sequence", leaf))
-                             .Cls(L"all", GroupClass(L"all", leaf).All())
-                             .Cls(L"choice", GroupClass(L"choice", leaf).Choice())
-                             .Col()
-                             .Cls(L"note", note)
-                             .Cls(L"nothing", note)
-                             .Prim(L"defaulted")
-                             .Default(L"usual")
-                             .Cls(L"pseudo", pseudo)
-                             .Cls(L"group", group)
-                             .CreateInline()
-                             .AnyAttr(L"others", L"##other"));
+        TestClass everything = Class(L"sample").AnyAttributes().Cls(L"values", ValuesClass());
+        everything.Cls(L"sequence", GroupClass(L"sequence", leaf)).Cls(L"all", GroupClass(L"all", leaf).All());
+        everything.Cls(L"choice", GroupClass(L"choice", leaf).Choice()).Col().Cls(L"note", note).Cls(L"nothing", note);
+        everything.Prim(L"defaulted").Default(L"usual").Cls(L"pseudo", pseudo).Cls(L"group", group).CreateInline();
+        return everything.AnyAttr(L"others", L"##other");
     }();
     return sample;
 }
