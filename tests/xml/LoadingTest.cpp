@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include <fstream>
+#include <functional>
 
 using namespace ZrXmlLib16;
 using TestSupport::MessageOf;
@@ -34,10 +35,7 @@ protected:
     }
 
     std::string Path(const std::string& name) const { return m_folder + "/" + name; }
-    void Write(const std::string& name, const std::string& bytes) const
-    {
-        std::ofstream(Path(name), std::ios::binary) << bytes;
-    }
+    void Write(const std::string& name, const char* text) const { std::ofstream(Path(name)) << text; }
     std::wstring WidePath(const std::wstring& name) const
     {
         return std::wstring(m_folder.begin(), m_folder.end()) + L"/" + name;
@@ -66,12 +64,12 @@ TEST(Loading, RefusesEmptyInput)
     CXmlDocument document;
     document.LoadXml("<old/>");
     const unsigned char byte = 0;
-    EXPECT_EQ(L"XML String is empty!", MessageOf<CZrException>([&] { document.LoadXml(""); }));
-    EXPECT_EQ(L"XML String is empty!", MessageOf<CZrException>([&] { document.LoadXml(L""); }));
-    EXPECT_EQ(
-        L"XML String is empty!", MessageOf<CZrException>([&] { document.LoadXml(static_cast<const char*>(nullptr)); }));
-    EXPECT_EQ(L"XML String is empty!",
-        MessageOf<CZrException>([&] { document.LoadXml(static_cast<const wchar_t*>(nullptr)); }));
+    const std::function<void()> loads[] = {[&] { document.LoadXml(""); }, [&] { document.LoadXml(L""); },
+        [&] { document.LoadXml(static_cast<const char*>(nullptr)); },
+        [&] { document.LoadXml(static_cast<const wchar_t*>(nullptr)); }};
+    for (const auto& load : loads) {
+        EXPECT_EQ(L"XML String is empty!", MessageOf<CZrException>(load));
+    }
     EXPECT_EQ(L"XML Stream is empty!", MessageOf<CZrException>([&] { document.LoadXmlStream(&byte, 0); }));
     EXPECT_EQ(L"XML Stream is empty!", MessageOf<CZrException>([&] { document.LoadXmlStream(nullptr, 1); }));
     EXPECT_EQ(nullptr, document.GetDocumentElement());
@@ -87,11 +85,7 @@ TEST(Loading, AcceptsEveryEncodingInAStream)
 
 TEST(Loading, DecompressesStreams)
 {
-    std::string text = "<a>";
-    for (int i = 0; i < 500; ++i) {
-        text += "<item/>";
-    }
-    text += "</a>";
+    const std::string text = "<a>" + std::string(500, ' ') + "</a>";
     const std::wstring tree = StreamTree(text);
     for (CompressionType type : {Compression_GZip, Compression_ZLib}) {
         CBinaryData bytes;
