@@ -17,18 +17,15 @@ constexpr auto Collapse = CWhitespaceUtils::Rule_Collapse;
 
 TEST(Conversions, Boolean)
 {
-    for (const wchar_t* text : {L"tRuE", L" true\n", L"1"}) {
-        EXPECT_TRUE(CConversions::booleanFromString(text, Collapse)) << text;
-    }
-    for (const wchar_t* text : {L"false", L"FALSE", L"\t0 "}) {
-        EXPECT_FALSE(CConversions::booleanFromString(text, Collapse)) << text;
-    }
+    for (const wchar_t* text : {L"tRuE", L" true\n", L"1"})
+        EXPECT_EQ(CConversions::booleanToString(CConversions::booleanFromString(text, Collapse)), L"true") << text;
+    for (const wchar_t* text : {L"false", L"FALSE", L"\t0 "})
+        EXPECT_EQ(CConversions::booleanToString(CConversions::booleanFromString(text, Collapse)), L"false") << text;
     for (const std::wstring text : {L"yes", L"", L"01", L"true ", L"tru", L"truee", L"\uff11"}) {
         EXPECT_EQ(MessageOf<CZrInvalidValueException>([&] { CConversions::booleanFromString(text, None); }),
             L"A Boolean Value read from an XML document was invalid [" + text
                 + L"]. Valid values are 'true', 'false', '1', or '0'");
     }
-    EXPECT_EQ(CConversions::booleanToString(true) + CConversions::booleanToString(false), L"truefalse");
 }
 
 TEST(Conversions, CharAndString)

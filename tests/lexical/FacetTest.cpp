@@ -141,17 +141,13 @@ TEST(Facets, WhatHasNoOrderViolatesEveryBound)
 
 TEST(Facets, MalformedBoundsFailWhenTheirTurnComes)
 {
-    CPrimitiveRestrictions facets;
-    facets.m_maxInclusive = L"1O";
-    EXPECT_EQ(MessageOf<CZrInvalidValueException>([&] { Helper::CheckRestrictionFori2(L"n", 5, facets); }),
-        L"The value [1O] can not be converted to a i4");
-    facets.m_minInclusive = L"6";
-    EXPECT_EQ(Verdict(L"5", ItemType_i2, facets), L"Invalid Value for item [5]");
-    facets.m_minInclusive = L" ";
-    EXPECT_EQ(Verdict(L"5", ItemType_r8, facets), L"The value [] can not be converted to a r8");
-    facets = CPrimitiveRestrictions();
-    facets.m_maxExclusive = L"300";
-    EXPECT_EQ(Verdict(L"5", ItemType_ui1, facets), L"The value [300] is to large to fit in a ui1");
+    const auto bounded = [](const wchar_t* least, const wchar_t* most, const wchar_t* below) {
+        return CPrimitiveRestrictions(nullptr, -1, -1, least, most, nullptr, below, -1, -1, -1);
+    };
+    EXPECT_EQ(Verdict(L"5", ItemType_i2, bounded(L"", L"1O", L"")), L"The value [1O] can not be converted to a i4");
+    EXPECT_EQ(Verdict(L"5", ItemType_i2, bounded(L"6", L"1O", L"")), L"Invalid Value for item [5]");
+    EXPECT_EQ(Verdict(L"5", ItemType_r8, bounded(L" ", L"1O", L"")), L"The value [] can not be converted to a r8");
+    EXPECT_EQ(Verdict(L"5", ItemType_ui1, bounded(L"", L"", L"300")), L"The value [300] is to large to fit in a ui1");
 }
 
 TEST(Facets, Lengths)
@@ -197,10 +193,8 @@ TEST(Facets, DecimalDigits)
 TEST(Facets, MillionDigitNumbers)
 {
     const std::wstring digits(1000000, L'7');
-    CPrimitiveRestrictions facets;
-    facets.m_minInclusive = digits.substr(1);
-    facets.m_maxExclusive = digits + L"0";
-    facets.m_totalDigits = 1000000;
+    const CPrimitiveRestrictions facets(
+        nullptr, -1, -1, digits.substr(1).c_str(), nullptr, nullptr, (digits + L"0").c_str(), -1, 1000000, -1);
     EXPECT_EQ(Verdict(digits, ItemType_integer, facets), L"");
     EXPECT_EQ(Verdict(digits, ItemType_decimal, facets), L"");
     EXPECT_NE(Verdict(digits + L".5", ItemType_decimal, facets), L"");

@@ -17,15 +17,12 @@ std::string Utf8Of(int codePoint)
 {
     const auto octet = [](int value) { return static_cast<char>(static_cast<unsigned char>(value)); };
     const auto tail = [&](int bits) { return octet(0x80 + bits % 64); };
-    if (codePoint < 0x80) {
+    if (codePoint < 0x80)
         return {octet(codePoint)};
-    }
-    if (codePoint < 0x800) {
+    if (codePoint < 0x800)
         return {octet(0xC0 + codePoint / 64), tail(codePoint)};
-    }
-    if (codePoint < 0x10000) {
+    if (codePoint < 0x10000)
         return {octet(0xE0 + codePoint / 4096), tail(codePoint / 64), tail(codePoint)};
-    }
     return {octet(0xF0 + codePoint / 262144), tail(codePoint / 4096), tail(codePoint / 64), tail(codePoint)};
 }
 
@@ -81,9 +78,8 @@ TEST(Encoder, WhatIsNoCharacterIsReplaced)
         {Units({0xD83D, 0x1F600}), "\xEF\xBF\xBD\xF0\x9F\x98\x80"},
         {Units({0xD83D}) + L"stuvwxyz", "\xEF\xBF\xBDstuvwxyz"},
         {L"stuv" + Units({-2147483647, 0x110000, -1}) + L"z", "stuv\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBDz"}};
-    for (const auto& [text, octets] : cases) {
+    for (const auto& [text, octets] : cases)
         EXPECT_EQ(octets, CEncoder::UnicodeToUtf8(text));
-    }
 }
 
 TEST(Encoder, EachIllFormedRunBecomesOneReplacement)

@@ -142,18 +142,16 @@ TEST_F(FileStream, AFullDiskIsReported)
 
 TEST_F(FileStream, BinaryStreamsAppendToTheirOwnOrTheCallersBuffer)
 {
-    CBinaryData target(L"");
+    CBinaryData target;
     CFileBinaryStream file(Name(L"a").c_str(), Encoding_UTF8, target);
     CBinaryStream own;
     CBinaryStream given(target);
-    for (CBinaryStream* stream : {static_cast<CBinaryStream*>(&own), &given}) {
+    for (CBinaryStream* stream : {&own, &given}) {
         stream->Append(static_cast<unsigned char>(0));
         stream->Append(reinterpret_cast<const unsigned char*>("\r\n"), 2);
         stream->Append(stream->GetBinaryStream());
     }
-    EXPECT_EQ(L"000D0A000D0A", own.GetBinaryStream().GetAsHexString());
     EXPECT_TRUE(target == own.GetBinaryStream());
-    EXPECT_EQ(&target, &file.GetBinaryStream());
     file.ToFile();
     EXPECT_EQ(std::string("\0\r\n\0\r\n", 6), ReadFile(Name(L"a")));
 }

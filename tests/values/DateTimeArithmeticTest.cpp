@@ -109,9 +109,8 @@ TEST(DateTimeArithmetic, SumsCarryThroughAllFields)
         {CDateTime::dt_gYear, L"2000", L"-P1D", L"2000"}, {CDateTime::dt_gYearMonth, L"2000-01", L"-P1M", L"1999-12"},
         {CDateTime::dt_date, L"2000-01-31", L"PT25H", L"2000-02-01"},
         {CDateTime::dt_time, L"23:30:00Z", L"PT1H", L"00:30:00Z"}};
-    for (const auto& row : rows) {
+    for (const auto& row : rows)
         EXPECT_EQ(Parsed(row.start, row.kind).Add(Span(row.span)).ToString(), row.sum);
-    }
     EXPECT_NO_THROW(CDateTime().Add(Span(L"P65535Y4294967295M4294967295DT4294967295H")));
 }
 

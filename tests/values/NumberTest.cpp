@@ -71,11 +71,9 @@ TEST(BigInteger, TextIsCanonical)
 
 TEST(BigInteger, OrderAgreesWithMachineIntegers)
 {
-    for (int left = -111; left <= 111; ++left) {
-        for (int right = -111; right <= 111; ++right) {
+    for (int left = -111; left <= 111; ++left)
+        for (int right = -111; right <= 111; ++right)
             ASSERT_TRUE(IsOrderedLike(CBigInteger(left), CBigInteger(right), left, right)) << left << " and " << right;
-        }
-    }
 }
 
 TEST(BigInteger, ConversionsHoldAtTheBorders)
@@ -129,9 +127,8 @@ TEST(Decimal, OrderAgreesWithScaledIntegers)
     }
     for (const auto& [left, a] : numbers) {
         ASSERT_EQ(a.ToDouble(), left / 1000.0);
-        for (const auto& [right, b] : numbers) {
+        for (const auto& [right, b] : numbers)
             ASSERT_TRUE(IsOrderedLike(a, b, left, right)) << left << " and " << right;
-        }
     }
 }
 
@@ -145,9 +142,8 @@ TEST(Decimal, FormatsRoundHalfToEvenAndFillUp)
         {L"-1.5", L"%08.2f", L"-0001.50"}, {L"1234.5", L"%3.1f", L"1234.5"}, {L"1.25", L"%g", L"1.25"},
         {L"1.25", L"%.1lf", L"1.25"}, {L"1.25", L"%.1f ", L"1.25"}, {L"1.25", L"%.1000f", L"1.25"},
         {L"1.25", L"%s%n", L"1.25"}, {L"1.25", L"", L"1.25"}, {L"1.25", nullptr, L"1.25"}};
-    for (const auto& row : rows) {
+    for (const auto& row : rows)
         EXPECT_EQ(CDecimal(row.text).ToString(row.format), row.printed) << (row.format ? Narrow(row.format) : "null");
-    }
 }
 
 TEST(Decimal, FormatAgreesWithTheCLibraryForExactBinaryFractions)
@@ -158,9 +154,8 @@ TEST(Decimal, FormatAgreesWithTheCLibraryForExactBinaryFractions)
             char expected[64];
             std::snprintf(expected, sizeof(expected), "%.*f", digits, number == 0 ? 0.0 : number);
             std::string text = expected;
-            if (text[0] == '-' && text.find_first_of("123456789") == std::string::npos) {
+            if (text[0] == '-' && text.find_first_of("123456789") == std::string::npos)
                 text.erase(0, 1);
-            }
             // The oracle follows the locale of the process, the library does not.
             std::replace(text.begin(), text.end(), ',', '.');
             const std::wstring format = L"%." + std::to_wstring(digits) + L"f";
@@ -173,13 +168,11 @@ TEST(Decimal, DoublesGoThroughTheShortestText)
 {
     const std::pair<double, const wchar_t*> rows[] = {{-0.0, L"0"}, {0.1, L"0.1"}, {-123.456, L"-123.456"},
         {1e23, L"100000000000000000000000"}, {1.25e-7, L"0.000000125"}, {12345678, L"12345678"}};
-    for (const auto& [number, text] : rows) {
+    for (const auto& [number, text] : rows)
         EXPECT_EQ(CDecimal::FromDouble(number).ToString(), text);
-    }
     using Limits = std::numeric_limits<double>;
-    for (const double number : {0.1, -Limits::max(), Limits::denorm_min(), Limits::min(), 1.0 / 3, 2.0 / 3e20}) {
+    for (const double number : {0.1, -Limits::max(), Limits::denorm_min(), Limits::min(), 1.0 / 3, 2.0 / 3e20})
         EXPECT_EQ(CDecimal::FromDouble(number).ToDouble(), number);
-    }
     EXPECT_THROW(CDecimal::FromDouble(std::nan("")), CZrInvalidValueException);
     EXPECT_EQ(MessageOf<CZrInvalidValueException>([] { CDecimal::FromDouble(-Limits::infinity()); }),
         L"The value [-INF] can not be converted to a decimal");

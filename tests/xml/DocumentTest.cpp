@@ -41,9 +41,8 @@ TEST(Document, BuilderRefusesToWorkWithoutAnOpenElement)
     const std::function<void()> calls[] = {[&] { document.AddChildElement(L"", L"a"); }, [&] { document.EndElement(); },
         [&] { document.AppendTextExcludingCR(nullptr, L"x"); },
         [&] { document.AddElementAttribute(nullptr, L"a", L"", L""); }};
-    for (const auto& call : calls) {
+    for (const auto& call : calls)
         EXPECT_EQ(L"The document has no open element.", MessageOf<CZrInvalidStateException>(call));
-    }
     document.AddDocElement(L"", L"first");
     document.AddDocElement(L"", L"second");
     EXPECT_EQ(L"second", TreeText(document.GetDocumentElement()));
@@ -58,9 +57,8 @@ TEST(Document, PathsNameEveryElementUniquely)
     std::wstring paths = root->GetXPath();
     for (const CXmlElement* child = root->GetFirstElement(); child; child = child->GetNextSiblingElement()) {
         paths += L" " + child->GetXPath();
-        for (const CXmlElement* leaf = child->GetFirstElement(); leaf; leaf = leaf->GetNextSiblingElement()) {
+        for (const CXmlElement* leaf = child->GetFirstElement(); leaf; leaf = leaf->GetNextSiblingElement())
             paths += L" " + leaf->GetXPath();
-        }
     }
     EXPECT_EQ(L"/o /o/a[1] /o/b /o/a[2] /o/a[2]/p:price[1] /o/a[2]/p:price[2] /o/a[2]/r:price", paths);
 }
@@ -83,7 +81,10 @@ TEST(Document, keeps_PrefixBeforeTheAtSignInAttributePaths)
     CXmlDocument document;
     document.LoadXml("<order xmlns:AA='urn:a' AA:code='1' plain='2'/>");
     const auto& attributes = document.GetDocumentElement()->GetAttributes();
-    ASSERT_EQ(2u, attributes.size());
+    EXPECT_EQ(L"12",
+        document.GetDocumentElement()->GetAttribute(L"code", L"urn:a")
+            + document.GetDocumentElement()->GetAttribute(L"plain", L"")
+            + document.GetDocumentElement()->GetAttribute(L"plain", L"urn:a"));
     EXPECT_EQ(L"/order/AA:@code", attributes[0]->GetXPath());
     EXPECT_EQ(L"/order/@plain", attributes[1]->GetXPath());
     EXPECT_EQ(L"/@alone", CXmlAttribute(nullptr, L"alone", L"", L"urn:a").GetXPath());
@@ -113,14 +114,6 @@ TEST(Document, keeps_DeclarationNamespaceForInfrastructureAttributes)
     }
 }
 
-TEST(Element, FindsAttributesByBothNames)
-{
-    CXmlDocument document;
-    document.LoadXml("<a xmlns:p='urn:p' c='1' p:c='2'/>");
-    const CXmlElement& root = *document.GetDocumentElement();
-    EXPECT_EQ(L"12", root.GetAttribute(L"c", L"") + root.GetAttribute(L"c", L"urn:p") + root.GetAttribute(L"d", L""));
-}
-
 TEST(Element, WorksWithoutADocument)
 {
     CXmlElement root(nullptr, nullptr);
@@ -135,7 +128,6 @@ TEST(Element, WorksWithoutADocument)
     EXPECT_EQ(L"/root/first[2]", second->GetXPath());
     EXPECT_EQ(L"{urn:a}root @{urn:b}n=v (first, first 't\rex')", TreeText(&root));
     std::unique_ptr<CXmlElement> removed(root.RemoveLastChildElement());
-    EXPECT_EQ(second, removed.get());
     EXPECT_EQ(L"/first", removed->GetXPath());
     removed.reset(root.RemoveLastChildElement());
     EXPECT_EQ(nullptr, root.RemoveLastChildElement());
@@ -184,9 +176,8 @@ TEST(Callback, ExceptionsLeaveTheLoadUnchanged)
             throw std::runtime_error("worse");
         return false;
     });
-    for (const char* text : {"<r><a/><bad xmlns:p='u'/><a/></r>", "<r><a/><bad>x</bad>&undefined;</r>"}) {
+    for (const char* text : {"<r><a/><bad xmlns:p='u'/><a/></r>", "<r><a/><bad>x</bad>&undefined;</r>"})
         EXPECT_EQ(L"stop", MessageOf<CZrInvalidStateException>([&] { document.LoadXml(text); })) << text;
-    }
     EXPECT_EQ(L"r (a, bad 'x')", TreeText(document.GetDocumentElement()));
     EXPECT_THROW(document.LoadXml("<worse/>"), std::runtime_error);
 }
@@ -195,15 +186,13 @@ TEST(Document, AMillionNestedElementsNeedNoStack)
 {
     constexpr std::size_t DEPTH = 1000000;
     std::string text;
-    for (std::size_t i = 0; i < 2 * DEPTH; ++i) {
+    for (std::size_t i = 0; i < 2 * DEPTH; ++i)
         text += i < DEPTH ? "<a>" : "</a>";
-    }
     CXmlDocument document;
     document.LoadXml(text.c_str());
     const CXmlElement* deepest = document.GetDocumentElement();
-    while (deepest->GetFirstElement()) {
+    while (deepest->GetFirstElement())
         deepest = deepest->GetFirstElement();
-    }
     EXPECT_EQ(2 * DEPTH, deepest->GetXPath().size());
     document.Cleanup();
     EXPECT_EQ(nullptr, document.GetDocumentElement());

@@ -21,9 +21,8 @@ TEST(Parser, TurnsEventsIntoTheTree)
         {"<!DOCTYPE a SYSTEM 'nowhere.dtd'><a>x&undefined;y</a>", L"a 'xy'"},
         {"\xEF\xBB\xBF<a>\xC3\xA9\xE2\x82\xAC</a>", L"a '\u00E9\u20AC'"},
         {"<?xml version='1.0' encoding='ISO-8859-1'?><a>\xE9</a>", L"a '\u00E9'"}};
-    for (const auto& row : cases) {
+    for (const auto& row : cases)
         EXPECT_EQ(row.second, ParsedTree(row.first)) << row.first;
-    }
 }
 
 TEST(Parser, keeps_NoCarriageReturnsInText)
@@ -67,9 +66,8 @@ TEST(Parser, ReportsErrorsWithTheirLine)
         {"<a>&undefined;</a>", L"undefined entity at line 1"}, {"<a xmlns='u|v'/>", L"syntax error at line 1"},
         {"\x01", L"not well-formed (invalid token) at line 1"},
         {"<?xml version='1.0' encoding='nonsense'?><a/>", L"unknown encoding at line 1"}};
-    for (const auto& row : cases) {
+    for (const auto& row : cases)
         EXPECT_EQ(row.second, MessageOf<CZrException>([&] { ParsedTree(row.first); })) << row.first;
-    }
 }
 
 TEST(Parser, KeepsWhatWasBuiltBeforeAnError)
@@ -86,9 +84,8 @@ TEST(Parser, StopsEntityAmplification)
     std::string text = "<!DOCTYPE a [<!ENTITY e0 'xxxxxxxxxx'>";
     for (int i = 1; i < 12; ++i) {
         text += "<!ENTITY e" + std::to_string(i) + " '";
-        for (int j = 0; j < 10; ++j) {
+        for (int j = 0; j < 10; ++j)
             text += "&e" + std::to_string(i - 1) + ";";
-        }
         text += "'>";
     }
     text += "]><a>&e11;</a>";

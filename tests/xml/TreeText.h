@@ -26,12 +26,10 @@ inline std::wstring TreeText(const ZrXmlLib16::CXmlElement* element)
             text += L" @" + NameText(attribute->GetNamespaceURI(), attribute->GetLocalName()) + L"="
                 + attribute->GetValue();
         }
-        if (!element->GetText().empty()) {
+        if (!element->GetText().empty())
             text += L" '" + element->GetText() + L"'";
-        }
-        if (element->GetFirstElement()) {
+        if (element->GetFirstElement())
             text += L" (" + TreeText(element->GetFirstElement()) + L")";
-        }
         text += element->GetNextSiblingElement() ? L", " : L"";
     }
     return text;

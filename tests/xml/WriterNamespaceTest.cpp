@@ -23,9 +23,8 @@ std::wstring Written(const wchar_t* script)
     for (std::wstring word; words >> word;) {
         std::wistringstream list(word.substr(1));
         std::vector<std::wstring> parts;
-        for (std::wstring part; std::getline(list, part, L',');) {
+        for (std::wstring part; std::getline(list, part, L',');)
             parts.push_back(part);
-        }
         parts.resize(3);
         switch (word[0]) {
         case L'!':
@@ -72,9 +71,8 @@ TEST(WriterNamespaces, DeclarationsStandWhereTheyAreNeeded)
         {L"+p,urn:1 <a,urn:1 @x,urn:2 > <a,urn:1 >",
             L"<p:a xmlns:p=\"urn:1\" xmlns:AA=\"urn:2\" AA:x=\"\"/><p:a xmlns:p=\"urn:1\"/>"},
     };
-    for (const auto& [script, expected] : cases) {
+    for (const auto& [script, expected] : cases)
         EXPECT_EQ(expected, Written(script));
-    }
 }
 
 TEST(WriterNamespaces, keeps_SiblingsInventingTheSamePrefix)
@@ -101,9 +99,8 @@ TEST(WriterNamespaces, keeps_TwoBlanksAfterAnInventedTypePrefix)
 TEST(WriterNamespaces, keeps_InventedPrefixesPastTheAlphabet)
 {
     const std::pair<int, const wchar_t*> cases[] = {{0, L"AA"}, {25, L"AZ"}, {26, L"BA"}, {675, L"ZZ"}, {676, L"[A"}};
-    for (const auto& [number, prefix] : cases) {
+    for (const auto& [number, prefix] : cases)
         EXPECT_EQ(prefix, CXmlWriter::NsIntToString(number));
-    }
     CTextStream stream;
     CXmlTextWriter writer(stream);
     CXmlWriter::NamespaceMap map{{L"urn:x", L"x"}, {L"urn:lower", L"Aa"}, {L"urn:none", L""}, {L"urn:long", L"AAA"}};
