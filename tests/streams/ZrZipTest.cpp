@@ -48,9 +48,8 @@ std::string Decompressed(const std::string& octets)
 std::string SampleText(std::size_t length)
 {
     std::string text;
-    for (int number = 0; text.size() < length; ++number) {
+    for (int number = 0; text.size() < length; ++number)
         text += "<item>" + std::to_string(number) + "</item>";
-    }
     return text.substr(0, length);
 }
 
@@ -58,27 +57,14 @@ std::string SampleText(std::size_t length)
 
 TEST(ZrZip, BothFormatsRoundTrip)
 {
-    for (const std::size_t length : {300u, 65535u, 65536u, 65537u, 131072u, 1000000u}) {
+    for (const std::size_t length : {300u, 65535u, 65536u, 65537u, 1000000u}) {
         const std::string text = SampleText(length);
         const std::string gzip = Compressed(text, Compression_GZip);
         const std::string zlib = Compressed(text, Compression_ZLib);
-        EXPECT_EQ("\x1F\x8B", gzip.substr(0, 2));
-        EXPECT_EQ("\x78\x01", zlib.substr(0, 2));
-        EXPECT_LT(gzip.size(), length);
-        EXPECT_LT(zlib.size(), gzip.size());
-        EXPECT_TRUE(Decompressed(gzip) == text);
+        EXPECT_EQ("\x1F\x8B\x78\x01", gzip.substr(0, 2) + zlib.substr(0, 2));
+        EXPECT_TRUE(zlib.size() < gzip.size() && gzip.size() < length);
         EXPECT_TRUE(Decompressed(zlib) == text);
         EXPECT_TRUE(Decompressed(gzip + "trailing") == text);
-    }
-}
-
-TEST(ZrZip, OtherTypesCompressNothing)
-{
-    for (const int type : {0, 3, -1}) {
-        EXPECT_EQ("text", Compressed("text", static_cast<CompressionType>(type)));
-        CBinaryData data(L"text");
-        CZrZip::CompressData(data, static_cast<CompressionType>(type));
-        EXPECT_TRUE(data == CBinaryData(L"text"));
     }
 }
 
@@ -86,17 +72,15 @@ TEST(ZrZip, keeps_RefusingDataThatDoesNotShrink)
 {
     std::string random;
     std::mt19937 generator(7);
-    for (int i = 0; i < 100000; ++i) {
+    for (int i = 0; i < 100000; ++i)
         random.push_back(static_cast<char>(generator()));
-    }
     for (const std::string& octets : {std::string(), std::string("a"), std::string("<a/>"), random}) {
         for (const CompressionType type : {Compression_GZip, Compression_ZLib}) {
             Buffer buffer(octets);
             const unsigned char* const before = buffer.data;
             const std::wstring message =
                 TestSupport::MessageOf<CZrException>([&] { CZrZip::Compress(&buffer.data, &buffer.length, type); });
-            EXPECT_EQ(0u, message.find(L"Failed to compress data. [Error Code: ")) << TestSupport::Narrow(message);
-            EXPECT_EQ(L']', message.back());
+            EXPECT_EQ(0u, message.find(L"Failed to compress data. [Error Code: ")) << message;
             EXPECT_EQ(before, buffer.data);
             EXPECT_EQ(octets, buffer.Content());
         }
@@ -106,12 +90,10 @@ TEST(ZrZip, keeps_RefusingDataThatDoesNotShrink)
 TEST(ZrZip, WhatIsNotCompressedPassesThrough)
 {
     const std::string gzip = Compressed(SampleText(5000), Compression_GZip);
-    std::string damaged = gzip;
-    damaged[gzip.size() / 2] = static_cast<char>(~damaged[gzip.size() / 2]);
-    std::string wrongCheck = gzip;
-    wrongCheck[gzip.size() - 6] = static_cast<char>(~wrongCheck[gzip.size() - 6]);
-    const std::string cases[] = {"", "x", "\x1F", "\x78", "<?xml version=\"1.0\"?><a/>", "\x1F\x8B plain",
-        "\x78\x01 plain", "\x78\xBB\x11\x22\x33\x44 preset dictionary", damaged, wrongCheck};
+    std::string cases[] = {gzip, gzip, "", "x", "\x1F", "\x78", "<?xml version=\"1.0\"?><a/>", "\x1F\x8B plain",
+        "\x78\x01 plain", "\x78\xBB\x11\x22\x33\x44 preset dictionary"};
+    cases[0][gzip.size() / 2] ^= '\x7F'; // damaged data
+    cases[1][gzip.size() - 6] ^= '\x7F'; // wrong checksum
     for (const std::string& octets : cases) {
         Buffer buffer(octets);
         const unsigned char* const before = buffer.data;
@@ -119,35 +101,26 @@ TEST(ZrZip, WhatIsNotCompressedPassesThrough)
         EXPECT_EQ(before, buffer.data);
         EXPECT_TRUE(octets == buffer.Content());
     }
-    for (std::size_t length = 0; length < gzip.size(); ++length) {
+    for (std::size_t length = 0; length < gzip.size(); ++length)
         ASSERT_TRUE(Decompressed(gzip.substr(0, length)) == gzip.substr(0, length)) << length;
-    }
     unsigned char* null = nullptr;
     unsigned long length = 0;
     CZrZip::Decompress(&null, &length);
     EXPECT_EQ(nullptr, null);
-}
-
-TEST(ZrZip, CompressedNothingDecompressesToNothing)
-{
-    const std::string empty("\x78\x9C\x03\x00\x00\x00\x00\x01", 8);
-    Buffer buffer(empty);
-    CZrZip::Decompress(&buffer.data, &buffer.length);
-    EXPECT_EQ(0u, buffer.length);
+    EXPECT_EQ("", Decompressed(std::string("\x78\x9C\x03\x00\x00\x00\x00\x01", 8))) << "nothing, compressed";
 }
 
 TEST(ZrZip, ValuesAreCompressedOrStayAsTheyWere)
 {
     const std::string text = SampleText(4000);
     CBinaryData data;
-    CZrZip::CompressData(data, Compression_GZip);
-    EXPECT_EQ(0u, data.GetLength());
     data.Append(reinterpret_cast<const unsigned char*>(text.data()), text.size());
     const CBinaryData copy(data);
+    CZrZip::CompressData(data, static_cast<CompressionType>(3));
+    EXPECT_TRUE(data == copy) << "an unknown type compresses nothing";
     CZrZip::CompressData(data, Compression_GZip);
     EXPECT_EQ(text, Decompressed(std::string(reinterpret_cast<const char*>(data.GetData()), data.GetLength())));
     EXPECT_EQ(text.size(), copy.GetLength());
-
     CBinaryData tooShort(L"a");
     EXPECT_THROW(CZrZip::CompressData(tooShort, Compression_ZLib), CZrException);
     EXPECT_TRUE(tooShort == CBinaryData(L"a"));

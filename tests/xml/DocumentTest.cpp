@@ -5,29 +5,14 @@
 #include "support/TestText.h"
 #include "xml/TreeText.h"
 
+#include <functional>
 #include <memory>
 #include <stdexcept>
-#include <vector>
 
 using namespace ZrXmlLib16;
 using TestSupport::MessageOf;
+using TestSupport::ParsedTree;
 using TestSupport::TreeText;
-
-namespace {
-
-const CXmlElement* Descend(const CXmlDocument& document, const std::vector<int>& indexes)
-{
-    const CXmlElement* element = document.GetDocumentElement();
-    for (int index : indexes) {
-        element = element->GetFirstElement();
-        for (; index > 0; --index) {
-            element = element->GetNextSiblingElement();
-        }
-    }
-    return element;
-}
-
-} // namespace
 
 TEST(Document, BuilderMakesTheSameTreeAsTheParser)
 {
@@ -43,22 +28,21 @@ TEST(Document, BuilderMakesTheSameTreeAsTheParser)
     built.EndElement();
     EXPECT_EQ(nullptr, built.GetCurrentElement());
 
-    CXmlDocument parsed;
-    parsed.LoadXml("<a:order xmlns:a='urn:a' id='7'>x\n"
-                   "y<item xmlns:b='urn:b' b:code='c'/>tail</a:order>");
-    EXPECT_EQ(L"{urn:a}order @id=7 'x\nytail' (item @{urn:b}code=c)", TreeText(parsed.GetDocumentElement()));
-    EXPECT_EQ(TreeText(parsed.GetDocumentElement()), TreeText(built.GetDocumentElement()));
+    const std::wstring tree = L"{urn:a}order @id=7 'x\nytail' (item @{urn:b}code=c)";
+    EXPECT_EQ(tree, TreeText(built.GetDocumentElement()));
+    EXPECT_EQ(tree,
+        ParsedTree("<a:order xmlns:a='urn:a' id='7'>x\n"
+                   "y<item xmlns:b='urn:b' b:code='c'/>tail</a:order>"));
 }
 
 TEST(Document, BuilderRefusesToWorkWithoutAnOpenElement)
 {
     CXmlDocument document;
-    const std::wstring expected = L"The document has no open element.";
-    EXPECT_EQ(expected, MessageOf<CZrInvalidStateException>([&] { document.AddChildElement(L"", L"a"); }));
-    EXPECT_EQ(expected, MessageOf<CZrInvalidStateException>([&] { document.EndElement(); }));
-    EXPECT_EQ(expected, MessageOf<CZrInvalidStateException>([&] { document.AppendTextExcludingCR(nullptr, L"x"); }));
-    EXPECT_EQ(
-        expected, MessageOf<CZrInvalidStateException>([&] { document.AddElementAttribute(nullptr, L"a", L"", L""); }));
+    const std::function<void()> calls[] = {[&] { document.AddChildElement(L"", L"a"); }, [&] { document.EndElement(); },
+        [&] { document.AppendTextExcludingCR(nullptr, L"x"); },
+        [&] { document.AddElementAttribute(nullptr, L"a", L"", L""); }};
+    for (const auto& call : calls)
+        EXPECT_EQ(L"The document has no open element.", MessageOf<CZrInvalidStateException>(call));
     document.AddDocElement(L"", L"first");
     document.AddDocElement(L"", L"second");
     EXPECT_EQ(L"second", TreeText(document.GetDocumentElement()));
@@ -69,14 +53,14 @@ TEST(Document, PathsNameEveryElementUniquely)
     CXmlDocument document;
     document.LoadXml("<o xmlns:p='urn:p' xmlns:q='urn:p' xmlns:r='urn:r' xmlns='urn:d' xmlns:zz='urn:d'>"
                      "<a/><b/><a><p:price/><q:price/><r:price/></a></o>");
-    const struct {
-        std::vector<int> indexes;
-        const wchar_t* path;
-    } cases[] = {{{}, L"/o"}, {{0}, L"/o/a[1]"}, {{1}, L"/o/b"}, {{2}, L"/o/a[2]"}, {{2, 0}, L"/o/a[2]/p:price[1]"},
-        {{2, 1}, L"/o/a[2]/p:price[2]"}, {{2, 2}, L"/o/a[2]/r:price"}};
-    for (const auto& row : cases) {
-        EXPECT_EQ(row.path, Descend(document, row.indexes)->GetXPath());
+    const CXmlElement* const root = document.GetDocumentElement();
+    std::wstring paths = root->GetXPath();
+    for (const CXmlElement* child = root->GetFirstElement(); child; child = child->GetNextSiblingElement()) {
+        paths += L" " + child->GetXPath();
+        for (const CXmlElement* leaf = child->GetFirstElement(); leaf; leaf = leaf->GetNextSiblingElement())
+            paths += L" " + leaf->GetXPath();
     }
+    EXPECT_EQ(L"/o /o/a[1] /o/b /o/a[2] /o/a[2]/p:price[1] /o/a[2]/p:price[2] /o/a[2]/r:price", paths);
 }
 
 TEST(Document, PrefixLookupsKeepTheLastDeclarationAndTheFirstPrefix)
@@ -90,7 +74,6 @@ TEST(Document, PrefixLookupsKeepTheLastDeclarationAndTheFirstPrefix)
     document.Cleanup();
     EXPECT_EQ(L"", document.LookupNamespaceFromAlias(L"b"));
     EXPECT_EQ(nullptr, document.GetDocumentElement());
-    EXPECT_EQ(0u, document.GetInputSize());
 }
 
 TEST(Document, keeps_PrefixBeforeTheAtSignInAttributePaths)
@@ -98,7 +81,10 @@ TEST(Document, keeps_PrefixBeforeTheAtSignInAttributePaths)
     CXmlDocument document;
     document.LoadXml("<order xmlns:AA='urn:a' AA:code='1' plain='2'/>");
     const auto& attributes = document.GetDocumentElement()->GetAttributes();
-    ASSERT_EQ(2u, attributes.size());
+    EXPECT_EQ(L"12",
+        document.GetDocumentElement()->GetAttribute(L"code", L"urn:a")
+            + document.GetDocumentElement()->GetAttribute(L"plain", L"")
+            + document.GetDocumentElement()->GetAttribute(L"plain", L"urn:a"));
     EXPECT_EQ(L"/order/AA:@code", attributes[0]->GetXPath());
     EXPECT_EQ(L"/order/@plain", attributes[1]->GetXPath());
     EXPECT_EQ(L"/@alone", CXmlAttribute(nullptr, L"alone", L"", L"urn:a").GetXPath());
@@ -109,10 +95,8 @@ TEST(Document, keeps_DeclarationNamespaceForInfrastructureAttributes)
     const wchar_t* const instance = L"http://www.w3.org/2001/XMLSchema-instance";
     const wchar_t* const declarations = L"http://www.w3.org/2000/xmlns/";
     const struct {
-        const wchar_t* namespaceUri;
-        const wchar_t* name;
-        bool isNamespaceAttribute;
-        bool isNil;
+        const wchar_t *namespaceUri, *name;
+        bool isNamespaceAttribute, isNil;
     } cases[] = {{instance, L"nil", false, true}, {declarations, L"nil", false, true}, {L"", L"nil", false, false},
         {instance, L"type", true, false}, {declarations, L"xmlns", true, false}, {L"", L"type", false, false},
         {instance, L"schemaLocation", true, false}, {instance, L"noNamespaceSchemaLocation", true, false},
@@ -120,26 +104,14 @@ TEST(Document, keeps_DeclarationNamespaceForInfrastructureAttributes)
     CXmlDocument document;
     CXmlElement* root = document.AddDocElement(L"", L"a");
     for (const auto& row : cases) {
-        SCOPED_TRACE(TestSupport::Narrow(row.name));
         const CXmlAttribute alone(nullptr, row.name, L"", row.namespaceUri);
         root->AddAttribute(row.name, L"", row.namespaceUri);
         for (const CXmlAttribute* attribute :
-            {&alone, static_cast<const CXmlAttribute*>(root->GetAttributes().back())}) {
-            EXPECT_EQ(row.isNamespaceAttribute, attribute->IsNamespaceAttribute());
-            EXPECT_EQ(row.isNil, attribute->IsNilAttribute());
+            std::initializer_list<const CXmlAttribute*>{&alone, root->GetAttributes().back()}) {
+            EXPECT_EQ(row.isNamespaceAttribute, attribute->IsNamespaceAttribute()) << row.name;
+            EXPECT_EQ(row.isNil, attribute->IsNilAttribute()) << row.name;
         }
     }
-}
-
-TEST(Element, FindsAttributesByBothNames)
-{
-    CXmlDocument document;
-    document.LoadXml("<a xmlns:p='urn:p' c='1' p:c='2'/>");
-    const CXmlElement& root = *document.GetDocumentElement();
-    EXPECT_EQ(L"1", root.GetAttribute(L"c", L""));
-    EXPECT_EQ(L"2", root.GetAttribute(L"c", L"urn:p"));
-    EXPECT_EQ(L"", root.GetAttribute(L"d", L""));
-    EXPECT_EQ(&root.GetAttribute(L"d", L""), &root.GetAttribute(L"e", L"urn:p"));
 }
 
 TEST(Element, WorksWithoutADocument)
@@ -152,12 +124,10 @@ TEST(Element, WorksWithoutADocument)
     root.CreateNewChildElement()->SetElementName(L"first");
     CXmlElement* second = root.CreateNewChildElement();
     second->SetElementName(L"first");
-    second->AppendText(L"te", 2);
-    second->AppendText(L"\rxt");
+    second->AppendText(L"t\rext", 4);
     EXPECT_EQ(L"/root/first[2]", second->GetXPath());
-    EXPECT_EQ(L"{urn:a}root @{urn:b}n=v (first, first 'te\rxt')", TreeText(&root));
+    EXPECT_EQ(L"{urn:a}root @{urn:b}n=v (first, first 't\rex')", TreeText(&root));
     std::unique_ptr<CXmlElement> removed(root.RemoveLastChildElement());
-    EXPECT_EQ(second, removed.get());
     EXPECT_EQ(L"/first", removed->GetXPath());
     removed.reset(root.RemoveLastChildElement());
     EXPECT_EQ(nullptr, root.RemoveLastChildElement());
@@ -167,13 +137,10 @@ TEST(Element, WorksWithoutADocument)
 
 TEST(Element, RemovedElementsOutliveTheirDocument)
 {
-    std::unique_ptr<CXmlElement> removed;
-    {
-        CXmlDocument document;
-        document.LoadXml("<a><kept n='1'><child>text</child></kept></a>");
-        removed.reset(document.GetDocumentElement()->RemoveLastChildElement());
-        document.LoadXml("<other/>");
-    }
+    auto document = std::make_unique<CXmlDocument>();
+    document->LoadXml("<a><kept n='1'><child>text</child></kept></a>");
+    const std::unique_ptr<CXmlElement> removed(document->GetDocumentElement()->RemoveLastChildElement());
+    document.reset();
     EXPECT_EQ(L"kept @n=1 (child 'text')", TreeText(removed.get()));
 }
 
@@ -190,52 +157,42 @@ TEST(Callback, RemovesElementsButNeverTheRoot)
 
 TEST(Callback, SeesPathAndChildrenOfTheClosedElement)
 {
-    static std::vector<std::wstring> seen;
+    static std::wstring seen;
     seen.clear();
     CXmlDocument document([](CXmlElement* element) {
-        seen.push_back(element->GetXPath() + L" " + TreeText(element->GetFirstElement()));
+        seen += element->GetXPath() + L" " + TreeText(element->GetFirstElement()) + L";";
         return false;
     });
     document.LoadXml("<r><a>1</a><a/></r>");
-    EXPECT_EQ((std::vector<std::wstring>{L"/r/a ", L"/r/a[2] ", L"/r a '1', a"}), seen);
+    EXPECT_EQ(L"/r/a ;/r/a[2] ;/r a '1', a;", seen);
 }
 
 TEST(Callback, ExceptionsLeaveTheLoadUnchanged)
 {
     CXmlDocument document([](CXmlElement* element) -> bool {
-        if (element->GetLocalName() == L"bad") {
+        if (element->GetLocalName() == L"bad")
             throw CZrInvalidStateException(L"stop");
-        }
-        if (element->GetLocalName() == L"worse") {
+        if (element->GetLocalName() == L"worse")
             throw std::runtime_error("worse");
-        }
         return false;
     });
-    for (const char* text : {"<r><a/><bad xmlns:p='u'/><a/></r>", "<r><a/><bad>x</bad>&undefined;</r>"}) {
+    for (const char* text : {"<r><a/><bad xmlns:p='u'/><a/></r>", "<r><a/><bad>x</bad>&undefined;</r>"})
         EXPECT_EQ(L"stop", MessageOf<CZrInvalidStateException>([&] { document.LoadXml(text); })) << text;
-    }
     EXPECT_EQ(L"r (a, bad 'x')", TreeText(document.GetDocumentElement()));
     EXPECT_THROW(document.LoadXml("<worse/>"), std::runtime_error);
-    document.LoadXml("<good/>");
-    EXPECT_EQ(L"good", TreeText(document.GetDocumentElement()));
 }
 
 TEST(Document, AMillionNestedElementsNeedNoStack)
 {
     constexpr std::size_t DEPTH = 1000000;
     std::string text;
-    for (std::size_t i = 0; i < DEPTH; ++i) {
-        text += "<a>";
-    }
-    for (std::size_t i = 0; i < DEPTH; ++i) {
-        text += "</a>";
-    }
+    for (std::size_t i = 0; i < 2 * DEPTH; ++i)
+        text += i < DEPTH ? "<a>" : "</a>";
     CXmlDocument document;
     document.LoadXml(text.c_str());
     const CXmlElement* deepest = document.GetDocumentElement();
-    while (deepest->GetFirstElement()) {
+    while (deepest->GetFirstElement())
         deepest = deepest->GetFirstElement();
-    }
     EXPECT_EQ(2 * DEPTH, deepest->GetXPath().size());
     document.Cleanup();
     EXPECT_EQ(nullptr, document.GetDocumentElement());
@@ -250,6 +207,4 @@ TEST(Document, SchemaTypeIsReadByInitOnly)
     EXPECT_EQ(SchemaType_XSD, document.GetSchemaType());
     document.Init();
     EXPECT_EQ(SchemaType_DTD, document.GetSchemaType());
-    EXPECT_EQ(nullptr, document.GetDocumentElement());
-    EXPECT_EQ(&context, &document.GetSerializationContext());
 }

@@ -6,11 +6,13 @@
 #include "support/TestText.h"
 #include "xml/TreeText.h"
 
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdlib>
+#include <filesystem>
 #include <fstream>
+#include <functional>
 
 using namespace ZrXmlLib16;
 using TestSupport::MessageOf;
@@ -18,39 +20,27 @@ using TestSupport::TreeText;
 
 namespace {
 
+/// A folder of its own for each test.
 class LoadingFile : public testing::Test {
 protected:
     LoadingFile()
     {
         char name[] = "/tmp/zrxml_loading_XXXXXX";
         m_folder = mkdtemp(name);
-        chmod(name, 0755);
     }
-    ~LoadingFile() override
-    {
-        unlink(Path("file.xml").c_str());
-        unlink(Path("caf\xC3\xA9.xml").c_str());
-        rmdir(m_folder.c_str());
-    }
+    ~LoadingFile() override { std::filesystem::remove_all(m_folder); }
 
-    std::string Path(const std::string& name) const { return m_folder + "/" + name; }
-    void Write(const std::string& name, const std::string& bytes) const
-    {
-        std::ofstream(Path(name), std::ios::binary) << bytes;
-    }
-    std::wstring WidePath(const std::wstring& name) const
-    {
-        return std::wstring(m_folder.begin(), m_folder.end()) + L"/" + name;
-    }
-    static std::wstring LoadMessage(const std::wstring& name)
-    {
-        CXmlDocument document;
-        return MessageOf<CZrException>([&] { document.Load(name.c_str()); });
-    }
+    void Write(const char* name, const char* text) const { std::ofstream(m_folder / name) << text; }
+    std::wstring Name(const std::wstring& name) const { return m_folder.wstring() + L"/" + name; }
 
-private:
-    std::string m_folder;
+    std::filesystem::path m_folder;
 };
+
+std::wstring LoadMessage(const wchar_t* name)
+{
+    CXmlDocument document;
+    return MessageOf<CZrException>([&] { document.Load(name); });
+}
 
 std::wstring StreamTree(const std::string& bytes)
 {
@@ -66,12 +56,11 @@ TEST(Loading, RefusesEmptyInput)
     CXmlDocument document;
     document.LoadXml("<old/>");
     const unsigned char byte = 0;
-    EXPECT_EQ(L"XML String is empty!", MessageOf<CZrException>([&] { document.LoadXml(""); }));
-    EXPECT_EQ(L"XML String is empty!", MessageOf<CZrException>([&] { document.LoadXml(L""); }));
-    EXPECT_EQ(
-        L"XML String is empty!", MessageOf<CZrException>([&] { document.LoadXml(static_cast<const char*>(nullptr)); }));
-    EXPECT_EQ(L"XML String is empty!",
-        MessageOf<CZrException>([&] { document.LoadXml(static_cast<const wchar_t*>(nullptr)); }));
+    const std::function<void()> loads[] = {[&] { document.LoadXml(""); }, [&] { document.LoadXml(L""); },
+        [&] { document.LoadXml(static_cast<const char*>(nullptr)); },
+        [&] { document.LoadXml(static_cast<const wchar_t*>(nullptr)); }};
+    for (const auto& load : loads)
+        EXPECT_EQ(L"XML String is empty!", MessageOf<CZrException>(load));
     EXPECT_EQ(L"XML Stream is empty!", MessageOf<CZrException>([&] { document.LoadXmlStream(&byte, 0); }));
     EXPECT_EQ(L"XML Stream is empty!", MessageOf<CZrException>([&] { document.LoadXmlStream(nullptr, 1); }));
     EXPECT_EQ(nullptr, document.GetDocumentElement());
@@ -87,11 +76,7 @@ TEST(Loading, AcceptsEveryEncodingInAStream)
 
 TEST(Loading, DecompressesStreams)
 {
-    std::string text = "<a>";
-    for (int i = 0; i < 500; ++i) {
-        text += "<item/>";
-    }
-    text += "</a>";
+    const std::string text = "<a>" + std::string(500, ' ') + "</a>";
     const std::wstring tree = StreamTree(text);
     for (CompressionType type : {Compression_GZip, Compression_ZLib}) {
         CBinaryData bytes;
@@ -106,32 +91,33 @@ TEST_F(LoadingFile, ReadsTheWholeFile)
 {
     Write("caf\xC3\xA9.xml", "<a>x\r\ny</a>");
     CXmlDocument document;
-    document.Load(WidePath(L"caf\u00E9.xml").c_str());
+    document.Load(Name(L"caf\u00E9.xml").c_str());
     EXPECT_EQ(L"a 'x\ny'", TreeText(document.GetDocumentElement()));
 }
 
 TEST_F(LoadingFile, ReportsWhatFailed)
 {
     Write("file.xml", "");
-    const std::wstring empty = WidePath(L"file.xml");
-    const std::wstring missing = WidePath(L"100%n%s.xml");
-    const std::wstring folder = WidePath(L"");
-    EXPECT_EQ(L"Failed to read the contents of the file [" + empty + L"] Error [0]", LoadMessage(empty));
-    EXPECT_EQ(L"Failed to open the file [" + missing + L"].", LoadMessage(missing));
-    EXPECT_EQ(L"Failed to get the size of the file [" + folder + L"] Error [0]", LoadMessage(folder));
-    CXmlDocument document;
-    EXPECT_EQ(L"Failed to open the file [].", MessageOf<CZrException>([&] { document.Load(nullptr); }));
+    const std::wstring empty = Name(L"file.xml");
+    const std::wstring missing = Name(L"100%n%s.xml");
+    const std::wstring folder = Name(L"");
+    EXPECT_EQ(L"Failed to read the contents of the file [" + empty + L"] Error [0]", LoadMessage(empty.c_str()));
+    EXPECT_EQ(L"Failed to open the file [" + missing + L"].", LoadMessage(missing.c_str()));
+    EXPECT_EQ(L"Failed to get the size of the file [" + folder + L"] Error [0]", LoadMessage(folder.c_str()));
+    EXPECT_EQ(L"Failed to open the file [].", LoadMessage(nullptr));
 }
 
 TEST_F(LoadingFile, ReportsAnUnreadableFile)
 {
     Write("file.xml", "<a/>");
-    chmod(Path("file.xml").c_str(), 0);
-    const std::wstring name = WidePath(L"file.xml");
+    std::filesystem::permissions(m_folder, std::filesystem::perms(0755));
+    std::filesystem::permissions(m_folder / "file.xml", std::filesystem::perms::none);
+    const std::wstring name = Name(L"file.xml");
+    // Root may read everything, so the child gives up its rights.
     const pid_t child = fork();
     if (child == 0) {
         const bool isUnprivileged = geteuid() != 0 || setuid(65534) == 0;
-        _exit(isUnprivileged && LoadMessage(name) == L"Failed to open the file [" + name + L"]." ? 0 : 1);
+        _exit(isUnprivileged && LoadMessage(name.c_str()) == L"Failed to open the file [" + name + L"]." ? 0 : 1);
     }
     int status = -1;
     ASSERT_EQ(child, waitpid(child, &status, 0));

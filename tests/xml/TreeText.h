@@ -2,7 +2,9 @@
 #ifndef TESTS_XML_TREETEXT_H
 #define TESTS_XML_TREETEXT_H
 
+#include "ZrXmlLib16/SerializationContext.h"
 #include "ZrXmlLib16/XmlAttribute.h"
+#include "ZrXmlLib16/XmlDocument.h"
 #include "ZrXmlLib16/XmlElement.h"
 
 #include <string>
@@ -24,15 +26,21 @@ inline std::wstring TreeText(const ZrXmlLib16::CXmlElement* element)
             text += L" @" + NameText(attribute->GetNamespaceURI(), attribute->GetLocalName()) + L"="
                 + attribute->GetValue();
         }
-        if (!element->GetText().empty()) {
+        if (!element->GetText().empty())
             text += L" '" + element->GetText() + L"'";
-        }
-        if (element->GetFirstElement()) {
+        if (element->GetFirstElement())
             text += L" (" + TreeText(element->GetFirstElement()) + L")";
-        }
         text += element->GetNextSiblingElement() ? L", " : L"";
     }
     return text;
+}
+
+inline std::wstring ParsedTree(const char* text,
+    const ZrXmlLib16::CSerializationContext& context = ZrXmlLib16::CSerializationContext::m_defaultContext)
+{
+    ZrXmlLib16::CXmlDocument document(context);
+    document.LoadXml(text);
+    return TreeText(document.GetDocumentElement());
 }
 
 } // namespace TestSupport
