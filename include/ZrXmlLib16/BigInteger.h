@@ -8,7 +8,7 @@
 
 namespace ZrXmlLib16 {
 
-/// An integer without bounds (XML Schema Part 2, 3.3.13), kept as decimal digits: it is read, written and compared,
+/// An integer without bounds (XML Schema Datatypes, 3.3.13), kept as decimal digits: it is read, written and compared,
 /// never computed with, all in linear time. Up to 15 digits need no allocation. A moved-from value is zero. Not
 /// synchronised.
 class ZRXML_API CBigInteger {

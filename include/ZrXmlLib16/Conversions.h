@@ -14,7 +14,8 @@
 
 namespace ZrXmlLib16 {
 
-/// The lexical forms of the primitive item types (XML Schema Part 2, chapter 3). Independent of any locale. Stateless.
+/// The lexical forms of the primitive item types (XML Schema Datatypes, chapter 3). Independent of any locale.
+/// Stateless.
 ///
 /// The ...FromString operations apply the whitespace rule first and throw CZrInvalidValueException for text they cannot
 /// convert; the rule is all the trimming there is. A number that is no rule throws CZrException.

@@ -10,7 +10,7 @@ namespace ZrXmlLib16 {
 
 class CDateTimeSpan;
 
-/// A value of one of the eight date and time types (XML Schema Part 2, 3.2.7 to 3.2.14), which it knows by its kind.
+/// A value of one of the eight date and time types (XML Schema Datatypes, 3.2.7 to 3.2.14), which it knows by its kind.
 ///
 /// Always a real date and time of the proleptic Gregorian calendar, years -999,999,999..999,999,999 with 0 = 1 BC, down
 /// to nanoseconds; text, comparison and arithmetic look only at the fields that the kind has and put
@@ -52,7 +52,7 @@ public:
     unsigned short GetYear() const;
     unsigned char GetMonth() const { return m_month; }
     unsigned char GetDay() const { return m_day; }
-    /// The partial order of date and time values (XML Schema Part 2, 3.2.7.4).
+    /// The partial order of date and time values (XML Schema Datatypes, 3.2.7.4).
     /// @return a CompareCode; indeterminate when the kinds differ.
     int CompareTo(const CDateTime& other) const;
 
@@ -100,7 +100,7 @@ public:
     /// The same instant with the zone Z; a value without zone as it is.
     /// @throws CZrInvalidValueException when the year leaves the range.
     CDateTime ToUtc() const;
-    /// The sum, as XML Schema Part 2, appendix E defines it; zone and kind are kept.
+    /// The sum, as XML Schema Datatypes, appendix E defines it; zone and kind are kept.
     /// @throws CZrInvalidValueException when the year leaves the range.
     CDateTime Add(const CDateTimeSpan& span) const;
 

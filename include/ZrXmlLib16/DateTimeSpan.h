@@ -8,7 +8,7 @@
 
 namespace ZrXmlLib16 {
 
-/// A duration (XML Schema Part 2, 3.2.6): years down to nanoseconds and one sign for the whole.
+/// A duration (XML Schema Datatypes, 3.2.6): years down to nanoseconds and one sign for the whole.
 ///
 /// The fields are kept as they are given and never normalised: 90 minutes stay 90 minutes. The order is partial,
 /// because a month has no fixed length: P1M and P30D are neither equal nor one less than the other. Not synchronised.
@@ -75,7 +75,7 @@ public:
     /// Appends what ToString returns.
     void AppendTo(std::wstring& text) const;
 
-    /// The partial order of durations (XML Schema Part 2, 3.2.6.2).
+    /// The partial order of durations (XML Schema Datatypes, 3.2.6.2).
     /// @return 0 equal, 1 less, 2 greater, 3 indeterminate (also when a sum leaves the range of CDateTime).
     int CompareTo(const CDateTimeSpan& other) const;
     bool operator==(const CDateTimeSpan& other) const { return CompareTo(other) == 0; }

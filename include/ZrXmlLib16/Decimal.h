@@ -8,9 +8,9 @@
 
 namespace ZrXmlLib16 {
 
-/// A decimal number of any length (XML Schema Part 2, 3.2.3), kept as decimal digits: it is read, written and compared,
-/// never computed with, all in linear time. Up to 15 digits need no allocation. A moved-from value is zero. Not
-/// synchronised.
+/// A decimal number of any length (XML Schema Datatypes, 3.2.3), kept as decimal digits: it is read, written and
+/// compared, never computed with, all in linear time. Up to 15 digits need no allocation. A moved-from value is zero.
+/// Not synchronised.
 class ZRXML_API CDecimal {
 public:
     /// The shortest text: no leading zeros but the one before a point, no trailing zeros, no point without digits

@@ -8,8 +8,8 @@
 
 namespace ZrXmlLib16 {
 
-/// The constraining facets of a simple type (XML Schema Part 2, 4.3) without enumerations. Bounds are kept as text and
-/// parsed with the conversion of the restricted type at each check.
+/// The constraining facets of a simple type (XML Schema Datatypes, 4.3) without enumerations. Bounds are kept as text
+/// and parsed with the conversion of the restricted type at each check.
 class ZRXML_API CPrimitiveRestrictions {
 public:
     /// Restricts nothing.

@@ -8,7 +8,7 @@
 
 namespace ZrXmlLib16 {
 
-/// The whiteSpace facet (XML Schema Part 2, 4.3.6) on text before it is parsed. Whitespace is U+0020, U+0009, U+000D
+/// The whiteSpace facet (XML Schema Datatypes, 4.3.6) on text before it is parsed. Whitespace is U+0020, U+0009, U+000D
 /// and U+000A. Stateless.
 class ZRXML_API CWhitespaceUtils {
 public:

@@ -27,12 +27,12 @@ public:
     /// @param element may be null, which never matches.
     static bool DoesElementNameMatch(const CSerializationContext& context, const CXmlElement* element,
         const std::wstring& name, const std::wstring& namespaceUri);
-    /// Whether a wildcard admits the namespace (XML Schema Part 1, 3.10.4).
+    /// Whether a wildcard admits the namespace (XML Schema Structures, 3.10.4).
     /// @param namespaceSpecification "##any", "##other", "##local", "##targetNamespace" or a URI, or several of them
     /// separated by blanks, of which one must admit the namespace.
     static bool IsNamespaceValid(const std::wstring& namespaceUri, const std::wstring& namespaceSpecification,
         const std::wstring& targetNamespace);
-    /// The test for one token of the specification; a specification with blanks is taken as a list.
+    /// The test for one token of the wildcard; a text with blanks is taken as a list.
     static bool TestNamespace(const std::wstring& namespaceUri, const std::wstring& namespaceSpecification,
         const std::wstring& targetNamespace);
 
