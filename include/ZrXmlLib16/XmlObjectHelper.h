@@ -97,8 +97,8 @@ public:
     /// @}
 
     /// Whether the whole text matches a pattern.
-    /// @param pattern UTF-8, XML Schema notation (Part 2, appendix F) as far as the Perl-compatible engine shares it;
-    /// the classes \i, \c, \I, \C and the first four Unicode blocks are translated. The class \w knows ASCII only.
+    /// @param pattern UTF-8, XML Schema notation (Datatypes, appendix F) as far as the Perl-compatible engine shares
+    /// it; the classes \i, \c, \I, \C and the first four Unicode blocks are translated. The class \w knows ASCII only.
     /// @throws CZrException "Invalid Regular Expression: ..." for a pattern that cannot be compiled or needs too much
     /// memory.
     static bool TestRegEx(std::string pattern, std::wstring text);
