@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Difference.h"
 
+#include "UntypedDifference.h"
+#include "ZrXmlLib16/ElementCol.h"
 #include "ZrXmlLib16/XmlCollection.h"
 #include "ZrXmlLib16/ZrException.h"
 #include "ZrXmlLib16/ZrVariant.h"
@@ -10,6 +12,7 @@
 namespace Demo {
 
 using Gpx::CGpxObject;
+using ZrXmlLib16::CElementCol;
 using ZrXmlLib16::CXmlCollection;
 using ZrXmlLib16::ZrVariant;
 
@@ -43,10 +46,9 @@ bool AreValuesEqual(const ZrVariant& left, const ZrVariant& right)
     }
 }
 
-std::wstring FindItemDifference(const ZrVariant& left, const ZrVariant& right, const std::wstring& name)
+std::wstring FindItemDifference(
+    const CXmlCollection& leftItems, const CXmlCollection& rightItems, const std::wstring& name)
 {
-    const auto& leftItems = dynamic_cast<const CXmlCollection&>(*left.GetXmlCollection());
-    const auto& rightItems = dynamic_cast<const CXmlCollection&>(*right.GetXmlCollection());
     if (leftItems.GetCount() != rightItems.GetCount()) {
         return L"/" + name;
     }
@@ -60,6 +62,17 @@ std::wstring FindItemDifference(const ZrVariant& left, const ZrVariant& right, c
         }
     }
     return {};
+}
+
+/// Untyped elements have no name in common: the path goes on with their positions.
+std::wstring FindCollectionDifference(const ZrVariant& left, const ZrVariant& right, const std::wstring& name)
+{
+    const auto& leftItems = dynamic_cast<const CXmlCollection&>(*left.GetXmlCollection());
+    const auto& rightItems = dynamic_cast<const CXmlCollection&>(*right.GetXmlCollection());
+    if (const auto* untyped = dynamic_cast<const CElementCol*>(&leftItems)) {
+        return FindUntypedDifference(*untyped, dynamic_cast<const CElementCol&>(rightItems));
+    }
+    return FindItemDifference(leftItems, rightItems, name);
 }
 
 std::wstring FindObjectDifference(const ZrVariant& left, const ZrVariant& right, const std::wstring& name)
@@ -79,7 +92,7 @@ std::wstring FindPropertyDifference(const ZrVariant& left, const ZrVariant& righ
     }
     switch (left.GetItemType()) {
     case ZrXmlLib16::ItemType_collection:
-        return FindItemDifference(left, right, name);
+        return FindCollectionDifference(left, right, name);
     case ZrXmlLib16::ItemType_object:
         return FindObjectDifference(left, right, name);
     default:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "GpxFile.h"
 
+#include "Extensions.h"
 #include "ZrXmlLib16/AttributeCol.h"
 #include "ZrXmlLib16/Encoder.h"
 #include "ZrXmlLib16/XmlDocument.h"
@@ -41,31 +42,30 @@ void RequireGpxRoot(const CXmlElement& root)
     }
 }
 
-CXmlElement* NextInDocument(CXmlElement* element)
-{
-    if (CXmlElement* child = element->GetFirstElement()) {
-        return child;
-    }
-    while (element && !element->GetNextSiblingElement()) {
-        element = element->GetParent();
-    }
-    return element ? element->GetNextSiblingElement() : nullptr;
-}
-
 unsigned long FileSize(const std::wstring& fileName)
 {
     return std::filesystem::file_size(ZrXmlLib16::CEncoder::UnicodeToUtf8(fileName));
 }
 
-int CountExtensions(CXmlElement* root)
+/// No element undeclares the default namespace, so there must be none when an element is in no namespace.
+bool MayHaveDefaultNamespace(const Gpx::CGpx& gpx)
 {
-    int count = 0;
-    for (CXmlElement* element = root; element; element = NextInDocument(element)) {
-        if (element->GetLocalName() == L"extensions" && element->GetNamespaceURI() == Gpx::NAMESPACE) {
-            ++count;
+    for (const ZrXmlLib16::CElement* element : FindUntypedElements(gpx)) {
+        if (element->GetNamespace().empty()) {
+            return false;
         }
     }
-    return count;
+    return true;
+}
+
+/// Each namespace gets its first prefix, unless that has another meaning already.
+void AddPrefixes(const Prefixes& prefixes, ZrXmlLib16::CNamespaceAliasMap& aliases)
+{
+    for (const auto& [prefix, uri] : prefixes) {
+        if (!prefix.empty() && !aliases.DoesNamespaceExist(uri.c_str()) && !aliases.DoesAliasExist(prefix.c_str())) {
+            aliases.Add(prefix.c_str(), uri.c_str());
+        }
+    }
 }
 
 } // namespace
@@ -87,21 +87,26 @@ ReadResult ReadGpxFile(const std::wstring& fileName)
         result.gpx->FromXmlElement(root, context);
     } catch (const CZrException& exception) {
         result.deviation = exception.GetFullMessage();
-        result.extensions = CountExtensions(root);
         context.SetIgnoreUnknownElements(true);
         context.SetIgnoreUnknownAttributes(true);
         result.gpx->FromXmlElement(root, context);
     }
+    RemoveIndentation(*result.gpx);
+    result.prefixes = document.GetNamespaceDeclarations();
     result.cost = {stopwatch.GetSeconds(), FileSize(fileName)};
     return result;
 }
 
-Cost WriteGpxFile(const Gpx::CGpx& gpx, const std::wstring& fileName)
+Cost WriteGpxFile(const Gpx::CGpx& gpx, const Prefixes& prefixes, const std::wstring& fileName)
 {
     CSerializationContext context;
     context.SetWriteTypeAttribute(false);
-    context.SetDefaultNamespaceURI(Gpx::NAMESPACE);
-    context.GetNamespaceAliases().Add(L"xsi", INSTANCE_NAMESPACE);
+    ZrXmlLib16::CNamespaceAliasMap& aliases = context.GetNamespaceAliases();
+    aliases.Add(L"xsi", INSTANCE_NAMESPACE);
+    AddPrefixes(prefixes, aliases);
+    if (MayHaveDefaultNamespace(gpx)) {
+        context.SetDefaultNamespaceURI(Gpx::NAMESPACE);
+    }
     context.GetAdditionalRootAttributes()->Add(INSTANCE_NAMESPACE, SCHEMA_LOCATION, L"schemaLocation");
     const CStopwatch stopwatch;
     gpx.ToXmlFile(fileName.c_str(), true, true, ZrXmlLib16::Encoding_UTF8, ZrXmlLib16::EOL_LF, context);

@@ -5,9 +5,13 @@
 #include "ZrXmlLib16/SmartPtr.h"
 #include "classes/Gpx.h"
 
+#include <map>
 #include <string>
 
 namespace Demo {
+
+/// Namespaces by the prefixes that a document binds to them.
+using Prefixes = std::map<std::wstring, std::wstring>;
 
 /// What reading or writing a file cost.
 struct Cost {
@@ -21,8 +25,8 @@ struct ReadResult {
     /// Why the file could not be read to the letter; empty when it could. What the classes do not know was then
     /// ignored.
     std::wstring deviation;
-    /// Number of `extensions` elements, for which there are no classes.
-    int extensions;
+    /// Where the document binds a prefix several times, the last one counts.
+    Prefixes prefixes;
 };
 
 /// Reads a GPX 1.1 file, compressed or not.
@@ -31,8 +35,9 @@ struct ReadResult {
 ReadResult ReadGpxFile(const std::wstring& fileName);
 
 /// Writes a GPX file in UTF-8.
+/// @param prefixes for the namespaces of the extensions; those that are not in it get invented ones.
 /// @throws CZrException when the objects break a rule of the schema, or the file cannot be written.
-Cost WriteGpxFile(const Gpx::CGpx& gpx, const std::wstring& fileName);
+Cost WriteGpxFile(const Gpx::CGpx& gpx, const Prefixes& prefixes, const std::wstring& fileName);
 
 } // namespace Demo
 

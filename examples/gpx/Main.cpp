@@ -77,11 +77,11 @@ Demo::ReadResult Read(const std::string& fileName)
 }
 
 /// @throws CZrException with the name of the file.
-Cost Write(const Gpx::CGpx& gpx, const std::string& fileName)
+Cost Write(const Gpx::CGpx& gpx, const Demo::Prefixes& prefixes, const std::string& fileName)
 {
     const std::wstring wideName = CEncoder::Utf8ToUnicode(fileName);
     try {
-        return Demo::WriteGpxFile(gpx, wideName);
+        return Demo::WriteGpxFile(gpx, prefixes, wideName);
     } catch (const ZrXmlLib16::CZrException& exception) {
         throw ZrXmlLib16::CZrException(L"cannot write " + wideName, exception);
     }
@@ -133,12 +133,11 @@ int Run(const std::string& input, const std::string& output)
     PrintCost("Read", input, original.cost);
     Print(Demo::Summarise(*original.gpx));
     if (!original.deviation.empty()) {
-        std::printf("\nParts of the file do not fit the classes and were ignored (extensions elements: %d).\n",
-            original.extensions);
-        PrintReport("The first thing that was ignored:", original.deviation);
+        PrintReport("The file breaks the schema; what it does not allow was ignored. The first such thing:",
+            original.deviation);
     }
     Change(*original.gpx);
-    PrintCost("Wrote", output, Write(*original.gpx, output));
+    PrintCost("Wrote", output, Write(*original.gpx, original.prefixes, output));
     const bool equal = CheckCopy(*original.gpx, output);
     PrintReport("A mistake on writing, latitude 91:", Demo::WriteImpossibleLatitude());
     PrintReport("A mistake on reading, <elle> for <ele>:", Demo::ReadMisspeltElement());

@@ -13,7 +13,7 @@ constexpr int START_OF_DAY = 7 * 3600 + 12 * 60;
 
 constexpr char HEAD[] = R"(<?xml version="1.0" encoding="UTF-8"?>
 <!-- An invented walk; nobody was there. -->
-<gpx version="1.1" creator="gpx_demo sample" xmlns="http://www.topografix.com/GPX/1/1" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance" xsi:schemaLocation="http://www.topografix.com/GPX/1/1 http://www.topografix.com/GPX/1/1/gpx.xsd">
+<gpx version="1.1" creator="gpx_demo sample" xmlns="http://www.topografix.com/GPX/1/1" xmlns:body="urn:example:body-sensors" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance" xsi:schemaLocation="http://www.topografix.com/GPX/1/1 http://www.topografix.com/GPX/1/1/gpx.xsd">
   <metadata>
     <name>Großer Kogel</name>
     <desc><![CDATA[Up the <north> ridge & down the south side.]]></desc>
@@ -27,6 +27,10 @@ constexpr char HEAD[] = R"(<?xml version="1.0" encoding="UTF-8"?>
     <time>2026-05-16T17:45:10.250+02:00</time>
     <keywords>walk, hill, ridge</keywords>
     <bounds minlat="47.0295" minlon="11.3990" maxlat="47.0785" maxlon="11.4345"/>
+    <extensions>
+      <body:sensor model="Pulse 3 &quot;red&quot;" body:id="17"><body:place>chest</body:place><body:strap/></body:sensor>
+      <weather xmlns="urn:example:weather" xml:lang="de">Föhn &amp; Sonne<gust unit="km/h">40</gust></weather>
+    </extensions>
   </metadata>
   <wpt lat="47.031200" lon="11.403300">
     <ele>978.5</ele><time>2026-05-16T07:12:00Z</time><magvar>3.9</magvar><geoidheight>49.25</geoidheight>
@@ -92,6 +96,15 @@ void AppendFix(std::string& text, int index, CNoise& noise)
     }
 }
 
+/// What another program adds to some points, in a namespace of its own.
+void AppendBodyData(std::string& text, CNoise& noise)
+{
+    const int heartRate = 120 + static_cast<int>(noise.Next() * 30.0);
+    const int cadence = 50 + static_cast<int>(noise.Next() * 10.0);
+    Append(text, "<extensions><body:heartRate>%d</body:heartRate>", heartRate);
+    Append(text, "<body:cadence unit=\"1/min\">%d</body:cadence></extensions>", cadence);
+}
+
 void AppendTrackPoint(std::string& text, const Place& place, int index, int second, CNoise& noise)
 {
     Append(text, "      <trkpt lat=\"%.6f\" lon=\"%.6f\">", place.latitude + 0.00001 * noise.Next(),
@@ -99,6 +112,9 @@ void AppendTrackPoint(std::string& text, const Place& place, int index, int seco
     Append(text, "<ele>%.1f</ele><time>2026-05-16T%02d:%02d:%02dZ</time>", place.elevation + noise.Next(),
         second / 3600, second / 60 % 60, second % 60);
     AppendFix(text, index, noise);
+    if (index % 20 == 0) {
+        AppendBodyData(text, noise);
+    }
     text += "</trkpt>\n";
 }
 

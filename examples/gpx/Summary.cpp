@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Summary.h"
 
+#include "Extensions.h"
 #include "ZrXmlLib16/Formatting.h"
 
 #include <cmath>
@@ -114,6 +115,11 @@ std::wstring Summarise(const Gpx::CGpx& gpx)
     text += ZrXmlLib16::FormatString(L"  routes:       %d with %d points\n", gpx.GetRte().GetCount(), routePoints);
     text += ZrXmlLib16::FormatString(L"  tracks:       %d with %d segments and %d points\n", gpx.GetTrk().GetCount(),
         statistics.segments, statistics.points);
+    const std::size_t extensions = FindExtensions(gpx).size();
+    if (extensions > 0) {
+        text += ZrXmlLib16::FormatString(
+            L"  extensions:   %zu with %zu elements\n", extensions, FindUntypedElements(gpx).size());
+    }
     return statistics.points == 0 ? text + names : text + names + DescribeTracks(statistics);
 }
 

@@ -74,6 +74,9 @@ public:
     /// The first prefix, in the order of prefixes, that is bound to the URI; empty when there is none.
     std::wstring LookupAliasFromNamespace(const std::wstring& uri) const;
 
+    /// URIs by prefix, the empty prefix included; borrowed, valid until the next load, Cleanup or the destructor.
+    const std::map<std::wstring, std::wstring>& GetNamespaceDeclarations() const;
+
     /// The innermost open element, null when none is open.
     CXmlElement* GetCurrentElement() const;
     /// The bytes that are being read, decompressed; null outside of a load.

@@ -4,6 +4,7 @@
 #include "classes/BoundsType.h"
 #include "classes/CopyrightType.h"
 #include "classes/EmailType.h"
+#include "classes/ExtensionsType.h"
 #include "classes/LinkType.h"
 #include "classes/MetadataType.h"
 #include "classes/PersonType.h"
@@ -25,6 +26,8 @@ ZrXmlLib16::CSmartPtr<ZrXmlLib16::CXmlObjectBase> CreateObject(int classId, cons
         return new CEmailType(name);
     case ClassId_LinkType:
         return new CLinkType(name);
+    case ClassId_ExtensionsType:
+        return new CExtensionsType(name);
     default:
         return nullptr;
     }

@@ -14,7 +14,8 @@ enum ClassId : int {
     ClassId_CopyrightType,
     ClassId_BoundsType,
     ClassId_EmailType,
-    ClassId_LinkType
+    ClassId_LinkType,
+    ClassId_ExtensionsType
 };
 
 /// A new object of a class, under an element name; null for an unknown class.

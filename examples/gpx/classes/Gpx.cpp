@@ -22,7 +22,8 @@ struct CGpx::Tables {
     CElementInfoSeqClsCol wpt{L"wpt", NAMESPACE, Property_Wpt, XmlElementType_Element};
     CElementInfoSeqClsCol rte{L"rte", NAMESPACE, Property_Rte, XmlElementType_Element};
     CElementInfoSeqClsCol trk{L"trk", NAMESPACE, Property_Trk, XmlElementType_Element};
-    CElementInfo* elements[5] = {&metadata, &wpt, &rte, &trk, nullptr};
+    OptionalExtensions extensions{Property_Extensions};
+    CElementInfo* elements[6] = {&metadata, &wpt, &rte, &trk, &extensions, nullptr};
 
     RequiredAttribute version{L"version", Property_Version, SimpleTypes::String()};
     RequiredAttribute creator{L"creator", Property_Creator, SimpleTypes::String()};
@@ -50,6 +51,12 @@ void CGpx::SetMetadata(CMetadataType* value)
     m_metadata = value;
 }
 
+void CGpx::SetExtensions(CExtensionsType* value)
+{
+    Throw_IfElementNameDiffers(value, L"extensions");
+    m_extensions = value;
+}
+
 void CGpx::AccessProperty(int index, bool read, ZrVariant& value)
 {
     switch (index) {
@@ -65,6 +72,8 @@ void CGpx::AccessProperty(int index, bool read, ZrVariant& value)
         return AccessCollection(read, value, m_rte);
     case Property_Trk:
         return AccessCollection(read, value, m_trk);
+    case Property_Extensions:
+        return AccessObject(read, value, m_extensions);
     default:
         ThrowUnknownProperty(index);
     }
@@ -93,6 +102,7 @@ void CGpx::Init()
     m_wpt->Clear();
     m_rte->Clear();
     m_trk->Clear();
+    m_extensions = nullptr;
 }
 
 } // namespace Gpx

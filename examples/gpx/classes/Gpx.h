@@ -2,6 +2,7 @@
 #ifndef EXAMPLES_GPX_CLASSES_GPX_H
 #define EXAMPLES_GPX_CLASSES_GPX_H
 
+#include "classes/ExtensionsType.h"
 #include "classes/GpxCollection.h"
 #include "classes/GpxObject.h"
 #include "classes/MetadataType.h"
@@ -35,6 +36,9 @@ public:
     CGpxCollection<CRteType>& GetRte() const { return *m_rte; }
     /// Tracks.
     CGpxCollection<CTrkType>& GetTrk() const { return *m_trk; }
+    /// What others add; may be null.
+    CExtensionsType* GetExtensions() const { return m_extensions; }
+    void SetExtensions(CExtensionsType* value);
 
     int GetPropertyCount() const override { return Property_Count; }
 
@@ -53,6 +57,7 @@ private:
         Property_Wpt,
         Property_Rte,
         Property_Trk,
+        Property_Extensions,
         Property_Count
     };
     struct Tables;
@@ -64,6 +69,7 @@ private:
     ZrXmlLib16::CSmartPtr<CGpxCollection<CWptType>> m_wpt;
     ZrXmlLib16::CSmartPtr<CGpxCollection<CRteType>> m_rte;
     ZrXmlLib16::CSmartPtr<CGpxCollection<CTrkType>> m_trk;
+    ZrXmlLib16::CSmartPtr<CExtensionsType> m_extensions;
 };
 
 } // namespace Gpx

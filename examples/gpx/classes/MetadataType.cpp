@@ -28,7 +28,9 @@ struct CMetadataType::Tables {
     OptionalElement keywords{L"keywords", Property_Keywords, SimpleTypes::String()};
     CElementInfoSeqClsOpt bounds{
         L"bounds", NAMESPACE, Property_Bounds, XmlElementType_Element, CreateObject, ClassId_BoundsType, false};
-    CElementInfo* elements[9] = {&name, &desc, &author, &copyright, &link, &time, &keywords, &bounds, nullptr};
+    OptionalExtensions extensions{Property_Extensions};
+    CElementInfo* elements[10] = {
+        &name, &desc, &author, &copyright, &link, &time, &keywords, &bounds, &extensions, nullptr};
 
     CAttributeInfo* attributes[1] = {nullptr};
 };
@@ -63,6 +65,12 @@ void CMetadataType::SetBounds(CBoundsType* value)
     m_bounds = value;
 }
 
+void CMetadataType::SetExtensions(CExtensionsType* value)
+{
+    Throw_IfElementNameDiffers(value, L"extensions");
+    m_extensions = value;
+}
+
 void CMetadataType::AccessProperty(int index, bool read, ZrVariant& value)
 {
     switch (index) {
@@ -82,6 +90,8 @@ void CMetadataType::AccessProperty(int index, bool read, ZrVariant& value)
         return AccessValue(read, value, m_keywords);
     case Property_Bounds:
         return AccessObject(read, value, m_bounds);
+    case Property_Extensions:
+        return AccessObject(read, value, m_extensions);
     default:
         ThrowUnknownProperty(index);
     }
@@ -112,6 +122,7 @@ void CMetadataType::Init()
     m_time.reset();
     m_keywords.reset();
     m_bounds = nullptr;
+    m_extensions = nullptr;
 }
 
 } // namespace Gpx

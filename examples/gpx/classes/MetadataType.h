@@ -5,6 +5,7 @@
 #include "ZrXmlLib16/DateTime.h"
 #include "classes/BoundsType.h"
 #include "classes/CopyrightType.h"
+#include "classes/ExtensionsType.h"
 #include "classes/GpxCollection.h"
 #include "classes/GpxObject.h"
 #include "classes/LinkType.h"
@@ -44,6 +45,9 @@ public:
     /// Extent of all points; may be null.
     CBoundsType* GetBounds() const { return m_bounds; }
     void SetBounds(CBoundsType* value);
+    /// What others add; may be null.
+    CExtensionsType* GetExtensions() const { return m_extensions; }
+    void SetExtensions(CExtensionsType* value);
 
     int GetPropertyCount() const override { return Property_Count; }
 
@@ -64,6 +68,7 @@ private:
         Property_Time,
         Property_Keywords,
         Property_Bounds,
+        Property_Extensions,
         Property_Count
     };
     struct Tables;
@@ -77,6 +82,7 @@ private:
     std::optional<ZrXmlLib16::CDateTime> m_time;
     std::optional<std::wstring> m_keywords;
     ZrXmlLib16::CSmartPtr<CBoundsType> m_bounds;
+    ZrXmlLib16::CSmartPtr<CExtensionsType> m_extensions;
 };
 
 } // namespace Gpx

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "classes/Records.h"
 
+#include "classes/ClassFactory.h"
+
 namespace Gpx {
 
 using ZrXmlLib16::CPrimitiveRestrictions;
@@ -95,6 +97,12 @@ const SimpleType& DgpsStation()
 OptionalElement::OptionalElement(const wchar_t* name, int propertyId, const SimpleType& type)
     : CElementInfoSeqPrimOpt(
         name, NAMESPACE, propertyId, false, type.itemType, L"", type.whitespaceRule, type.restrictions, L"")
+{
+}
+
+OptionalExtensions::OptionalExtensions(int propertyId)
+    : CElementInfoSeqClsOpt(L"extensions", NAMESPACE, propertyId, ZrXmlLib16Data::XmlElementType_Element, CreateObject,
+        ClassId_ExtensionsType, false)
 {
 }
 

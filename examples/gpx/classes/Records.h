@@ -3,6 +3,7 @@
 #define EXAMPLES_GPX_CLASSES_RECORDS_H
 
 #include "ZrXmlLib16Data/AttributeInfoPrimitive.h"
+#include "ZrXmlLib16Data/ElementInfoSeqClsOpt.h"
 #include "ZrXmlLib16Data/ElementInfoSeqPrimOpt.h"
 #include "classes/GpxObject.h"
 
@@ -37,6 +38,12 @@ const SimpleType& DgpsStation();
 class OptionalElement : public ZrXmlLib16Data::CElementInfoSeqPrimOpt {
 public:
     OptionalElement(const wchar_t* name, int propertyId, const SimpleType& type);
+};
+
+/// Record of the optional extensions that most classes have.
+class OptionalExtensions : public ZrXmlLib16Data::CElementInfoSeqClsOpt {
+public:
+    explicit OptionalExtensions(int propertyId);
 };
 
 /// Record of a required attribute.

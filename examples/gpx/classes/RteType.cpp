@@ -22,8 +22,9 @@ struct CRteType::Tables {
     CElementInfoSeqClsCol link{L"link", NAMESPACE, Property_Link, XmlElementType_Element};
     OptionalElement number{L"number", Property_Number, SimpleTypes::NonNegativeInteger()};
     OptionalElement type{L"type", Property_Type, SimpleTypes::String()};
+    OptionalExtensions extensions{Property_Extensions};
     CElementInfoSeqClsCol rtept{L"rtept", NAMESPACE, Property_Rtept, XmlElementType_Element};
-    CElementInfo* elements[9] = {&name, &cmt, &desc, &src, &link, &number, &type, &rtept, nullptr};
+    CElementInfo* elements[10] = {&name, &cmt, &desc, &src, &link, &number, &type, &extensions, &rtept, nullptr};
 
     CAttributeInfo* attributes[1] = {nullptr};
 };
@@ -39,6 +40,12 @@ CRteType::CRteType(const wchar_t* elementName)
     , m_link(new CGpxCollection<CLinkType>(L"link"))
     , m_rtept(new CGpxCollection<CWptType>(L"rtept"))
 {
+}
+
+void CRteType::SetExtensions(CExtensionsType* value)
+{
+    Throw_IfElementNameDiffers(value, L"extensions");
+    m_extensions = value;
 }
 
 void CRteType::AccessProperty(int index, bool read, ZrVariant& value)
@@ -58,6 +65,8 @@ void CRteType::AccessProperty(int index, bool read, ZrVariant& value)
         return AccessValue(read, value, m_number);
     case Property_Type:
         return AccessValue(read, value, m_type);
+    case Property_Extensions:
+        return AccessObject(read, value, m_extensions);
     case Property_Rtept:
         return AccessCollection(read, value, m_rtept);
     default:
@@ -89,6 +98,7 @@ void CRteType::Init()
     m_link->Clear();
     m_number.reset();
     m_type.reset();
+    m_extensions = nullptr;
     m_rtept->Clear();
 }
 

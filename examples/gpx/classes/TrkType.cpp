@@ -22,8 +22,9 @@ struct CTrkType::Tables {
     CElementInfoSeqClsCol link{L"link", NAMESPACE, Property_Link, XmlElementType_Element};
     OptionalElement number{L"number", Property_Number, SimpleTypes::NonNegativeInteger()};
     OptionalElement type{L"type", Property_Type, SimpleTypes::String()};
+    OptionalExtensions extensions{Property_Extensions};
     CElementInfoSeqClsCol trkseg{L"trkseg", NAMESPACE, Property_Trkseg, XmlElementType_Element};
-    CElementInfo* elements[9] = {&name, &cmt, &desc, &src, &link, &number, &type, &trkseg, nullptr};
+    CElementInfo* elements[10] = {&name, &cmt, &desc, &src, &link, &number, &type, &extensions, &trkseg, nullptr};
 
     CAttributeInfo* attributes[1] = {nullptr};
 };
@@ -39,6 +40,12 @@ CTrkType::CTrkType(const wchar_t* elementName)
     , m_link(new CGpxCollection<CLinkType>(L"link"))
     , m_trkseg(new CGpxCollection<CTrksegType>(L"trkseg"))
 {
+}
+
+void CTrkType::SetExtensions(CExtensionsType* value)
+{
+    Throw_IfElementNameDiffers(value, L"extensions");
+    m_extensions = value;
 }
 
 void CTrkType::AccessProperty(int index, bool read, ZrVariant& value)
@@ -58,6 +65,8 @@ void CTrkType::AccessProperty(int index, bool read, ZrVariant& value)
         return AccessValue(read, value, m_number);
     case Property_Type:
         return AccessValue(read, value, m_type);
+    case Property_Extensions:
+        return AccessObject(read, value, m_extensions);
     case Property_Trkseg:
         return AccessCollection(read, value, m_trkseg);
     default:
@@ -89,6 +98,7 @@ void CTrkType::Init()
     m_link->Clear();
     m_number.reset();
     m_type.reset();
+    m_extensions = nullptr;
     m_trkseg->Clear();
 }
 

@@ -3,6 +3,7 @@
 #define EXAMPLES_GPX_CLASSES_TRKTYPE_H
 
 #include "ZrXmlLib16/BigInteger.h"
+#include "classes/ExtensionsType.h"
 #include "classes/GpxCollection.h"
 #include "classes/GpxObject.h"
 #include "classes/LinkType.h"
@@ -39,6 +40,9 @@ public:
     /// Category.
     const std::optional<std::wstring>& GetType() const { return m_type; }
     void SetType(std::optional<std::wstring> value) { m_type = std::move(value); }
+    /// What others add; may be null.
+    CExtensionsType* GetExtensions() const { return m_extensions; }
+    void SetExtensions(CExtensionsType* value);
     /// Segments in order; reception was lost between two of them.
     CGpxCollection<CTrksegType>& GetTrkseg() const { return *m_trkseg; }
 
@@ -60,6 +64,7 @@ private:
         Property_Link,
         Property_Number,
         Property_Type,
+        Property_Extensions,
         Property_Trkseg,
         Property_Count
     };
@@ -73,6 +78,7 @@ private:
     ZrXmlLib16::CSmartPtr<CGpxCollection<CLinkType>> m_link;
     std::optional<ZrXmlLib16::CBigInteger> m_number;
     std::optional<std::wstring> m_type;
+    ZrXmlLib16::CSmartPtr<CExtensionsType> m_extensions;
     ZrXmlLib16::CSmartPtr<CGpxCollection<CTrksegType>> m_trkseg;
 };
 

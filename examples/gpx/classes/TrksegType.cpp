@@ -16,7 +16,8 @@ struct CTrksegType::Tables {
         -1, ZrXmlLib16::ItemType_none, L"", false};
 
     CElementInfoSeqClsCol trkpt{L"trkpt", NAMESPACE, Property_Trkpt, XmlElementType_Element};
-    CElementInfo* elements[2] = {&trkpt, nullptr};
+    OptionalExtensions extensions{Property_Extensions};
+    CElementInfo* elements[3] = {&trkpt, &extensions, nullptr};
 
     CAttributeInfo* attributes[1] = {nullptr};
 };
@@ -33,11 +34,19 @@ CTrksegType::CTrksegType(const wchar_t* elementName)
 {
 }
 
+void CTrksegType::SetExtensions(CExtensionsType* value)
+{
+    Throw_IfElementNameDiffers(value, L"extensions");
+    m_extensions = value;
+}
+
 void CTrksegType::AccessProperty(int index, bool read, ZrVariant& value)
 {
     switch (index) {
     case Property_Trkpt:
         return AccessCollection(read, value, m_trkpt);
+    case Property_Extensions:
+        return AccessObject(read, value, m_extensions);
     default:
         ThrowUnknownProperty(index);
     }
@@ -61,6 +70,7 @@ CAttributeInfo** CTrksegType::GetClassAttributeInfo() const
 void CTrksegType::Init()
 {
     m_trkpt->Clear();
+    m_extensions = nullptr;
 }
 
 } // namespace Gpx

@@ -2,6 +2,7 @@
 #ifndef EXAMPLES_GPX_CLASSES_TRKSEGTYPE_H
 #define EXAMPLES_GPX_CLASSES_TRKSEGTYPE_H
 
+#include "classes/ExtensionsType.h"
 #include "classes/GpxCollection.h"
 #include "classes/GpxObject.h"
 #include "classes/WptType.h"
@@ -15,6 +16,9 @@ public:
 
     /// The points in order.
     CGpxCollection<CWptType>& GetTrkpt() const { return *m_trkpt; }
+    /// What others add; may be null.
+    CExtensionsType* GetExtensions() const { return m_extensions; }
+    void SetExtensions(CExtensionsType* value);
 
     int GetPropertyCount() const override { return Property_Count; }
 
@@ -26,11 +30,12 @@ protected:
     void Init() override;
 
 private:
-    enum Property { Property_Trkpt, Property_Count };
+    enum Property { Property_Trkpt, Property_Extensions, Property_Count };
     struct Tables;
     static Tables& GetTables();
 
     ZrXmlLib16::CSmartPtr<CGpxCollection<CWptType>> m_trkpt;
+    ZrXmlLib16::CSmartPtr<CExtensionsType> m_extensions;
 };
 
 } // namespace Gpx

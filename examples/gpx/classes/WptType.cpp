@@ -34,8 +34,9 @@ struct CWptType::Tables {
     OptionalElement pdop{L"pdop", Property_Pdop, SimpleTypes::Decimal()};
     OptionalElement ageofdgpsdata{L"ageofdgpsdata", Property_Ageofdgpsdata, SimpleTypes::Decimal()};
     OptionalElement dgpsid{L"dgpsid", Property_Dgpsid, SimpleTypes::DgpsStation()};
-    CElementInfo* elements[19] = {&ele, &time, &magvar, &geoidheight, &name, &cmt, &desc, &src, &link, &sym, &type,
-        &fix, &sat, &hdop, &vdop, &pdop, &ageofdgpsdata, &dgpsid, nullptr};
+    OptionalExtensions extensions{Property_Extensions};
+    CElementInfo* elements[20] = {&ele, &time, &magvar, &geoidheight, &name, &cmt, &desc, &src, &link, &sym, &type,
+        &fix, &sat, &hdop, &vdop, &pdop, &ageofdgpsdata, &dgpsid, &extensions, nullptr};
 
     RequiredAttribute lat{L"lat", Property_Lat, SimpleTypes::Latitude()};
     RequiredAttribute lon{L"lon", Property_Lon, SimpleTypes::Longitude()};
@@ -52,6 +53,12 @@ CWptType::CWptType(const wchar_t* elementName)
     : CGpxObject(elementName)
     , m_link(new CGpxCollection<CLinkType>(L"link"))
 {
+}
+
+void CWptType::SetExtensions(CExtensionsType* value)
+{
+    Throw_IfElementNameDiffers(value, L"extensions");
+    m_extensions = value;
 }
 
 void CWptType::AccessProperty(int index, bool read, ZrVariant& value)
@@ -97,6 +104,8 @@ void CWptType::AccessProperty(int index, bool read, ZrVariant& value)
         return AccessValue(read, value, m_ageofdgpsdata);
     case Property_Dgpsid:
         return AccessValue(read, value, m_dgpsid);
+    case Property_Extensions:
+        return AccessObject(read, value, m_extensions);
     default:
         ThrowUnknownProperty(index);
     }
@@ -139,6 +148,7 @@ void CWptType::Init()
     m_pdop.reset();
     m_ageofdgpsdata.reset();
     m_dgpsid.reset();
+    m_extensions = nullptr;
 }
 
 } // namespace Gpx

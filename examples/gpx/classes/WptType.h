@@ -5,6 +5,7 @@
 #include "ZrXmlLib16/BigInteger.h"
 #include "ZrXmlLib16/DateTime.h"
 #include "ZrXmlLib16/Decimal.h"
+#include "classes/ExtensionsType.h"
 #include "classes/FixType.h"
 #include "classes/GpxCollection.h"
 #include "classes/GpxObject.h"
@@ -80,6 +81,9 @@ public:
     /// Differential station, 0 to 1023.
     const std::optional<ZrXmlLib16::CBigInteger>& GetDgpsid() const { return m_dgpsid; }
     void SetDgpsid(std::optional<ZrXmlLib16::CBigInteger> value) { m_dgpsid = std::move(value); }
+    /// What others add; may be null.
+    CExtensionsType* GetExtensions() const { return m_extensions; }
+    void SetExtensions(CExtensionsType* value);
 
     int GetPropertyCount() const override { return Property_Count; }
 
@@ -112,6 +116,7 @@ private:
         Property_Pdop,
         Property_Ageofdgpsdata,
         Property_Dgpsid,
+        Property_Extensions,
         Property_Count
     };
     struct Tables;
@@ -137,6 +142,7 @@ private:
     std::optional<ZrXmlLib16::CDecimal> m_pdop;
     std::optional<ZrXmlLib16::CDecimal> m_ageofdgpsdata;
     std::optional<ZrXmlLib16::CBigInteger> m_dgpsid;
+    ZrXmlLib16::CSmartPtr<CExtensionsType> m_extensions;
 };
 
 } // namespace Gpx
