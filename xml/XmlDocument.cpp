@@ -198,6 +198,11 @@ std::wstring CXmlDocument::LookupAliasFromNamespace(const std::wstring& uri) con
     return std::wstring();
 }
 
+const std::map<std::wstring, std::wstring>& CXmlDocument::GetNamespaceDeclarations() const
+{
+    return m_prefixMap;
+}
+
 CXmlElement* CXmlDocument::GetCurrentElement() const
 {
     return m_elementStack.empty() ? nullptr : m_elementStack.back();

@@ -87,7 +87,11 @@ TEST(Document, PrefixLookupsKeepTheLastDeclarationAndTheFirstPrefix)
     EXPECT_EQ(L"urn:3", document.LookupNamespaceFromAlias(L"c"));
     EXPECT_EQ(L"", document.LookupAliasFromNamespace(L"urn:2"));
     EXPECT_EQ(L"", document.LookupNamespaceFromAlias(L"unknown"));
+    const std::map<std::wstring, std::wstring> declarations{
+        {L"", L""}, {L"b", L"urn:1"}, {L"c", L"urn:3"}, {L"z", L"urn:1"}};
+    EXPECT_EQ(declarations, document.GetNamespaceDeclarations());
     document.Cleanup();
+    EXPECT_TRUE(document.GetNamespaceDeclarations().empty());
     EXPECT_EQ(L"", document.LookupNamespaceFromAlias(L"b"));
     EXPECT_EQ(nullptr, document.GetDocumentElement());
     EXPECT_EQ(0u, document.GetInputSize());
