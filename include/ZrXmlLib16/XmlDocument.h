@@ -73,8 +73,8 @@ public:
     std::wstring LookupNamespaceFromAlias(const std::wstring& prefix) const;
     /// The first prefix, in the order of prefixes, that is bound to the URI; empty when there is none.
     std::wstring LookupAliasFromNamespace(const std::wstring& uri) const;
-
-    /// URIs by prefix, the empty prefix included; borrowed, valid until the next load, Cleanup or the destructor.
+    /// All prefixes and the URIs they were last bound to; the empty prefix stands for the default namespace, which is
+    /// empty where it was undeclared last. Borrowed.
     const std::map<std::wstring, std::wstring>& GetNamespaceDeclarations() const;
 
     /// The innermost open element, null when none is open.
