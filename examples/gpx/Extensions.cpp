@@ -24,6 +24,13 @@ void AddExtensionsOfPoints(const CGpxCollection<CWptType>& points, std::vector<c
     }
 }
 
+std::wstring Trim(const std::wstring& text)
+{
+    constexpr wchar_t BLANKS[] = L" \t\r\n";
+    const std::size_t first = text.find_first_not_of(BLANKS);
+    return first == std::wstring::npos ? L"" : text.substr(first, text.find_last_not_of(BLANKS) - first + 1);
+}
+
 } // namespace
 
 std::vector<const CExtensionsType*> FindExtensions(const Gpx::CGpx& gpx)
@@ -65,9 +72,8 @@ std::vector<CElement*> FindUntypedElements(const Gpx::CGpx& gpx)
 void RemoveIndentation(const Gpx::CGpx& gpx)
 {
     for (CElement* element : FindUntypedElements(gpx)) {
-        if (element->GetElements()->GetCount() > 0
-            && element->GetText().find_first_not_of(L" \t\r\n") == std::wstring::npos) {
-            element->SetText(L"");
+        if (element->GetElements()->GetCount() > 0) {
+            element->SetText(Trim(element->GetText()).c_str());
         }
     }
 }

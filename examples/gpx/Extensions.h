@@ -14,8 +14,8 @@ std::vector<const Gpx::CExtensionsType*> FindExtensions(const Gpx::CGpx& gpx);
 /// All elements of all extensions, at any depth, borrowed from the document.
 std::vector<ZrXmlLib16::CElement*> FindUntypedElements(const Gpx::CGpx& gpx);
 
-/// Removes the indentation from the text of untyped elements with children. It would be written behind the children,
-/// so that every round trip would add more.
+/// Removes the blanks around the text of untyped elements with children. They are mostly indentation, to which every
+/// round trip would add more, because the text is written behind the children.
 void RemoveIndentation(const Gpx::CGpx& gpx);
 
 } // namespace Demo

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Reads a GPX file into objects, changes them, writes them, and reads them back.
 #include "Difference.h"
+#include "Extensions.h"
 #include "GpxFile.h"
 #include "Mistakes.h"
 #include "SampleWalk.h"
@@ -106,6 +107,20 @@ void Change(Gpx::CGpx& gpx)
     std::printf("\n\n");
 }
 
+/// Shows that the comparison sees a change of a value, and one inside the extensions.
+void ChangeCopy(const Gpx::CGpx& gpx, const Gpx::CGpx& copy)
+{
+    const std::vector<ZrXmlLib16::CElement*> untyped = Demo::FindUntypedElements(copy);
+    if (!untyped.empty()) {
+        const std::wstring text = untyped.back()->GetText();
+        untyped.back()->SetText((text + L"!").c_str());
+        Print(L"  After one change to its extensions they differ, first at " + Demo::FindDifference(gpx, copy) + L"\n");
+        untyped.back()->SetText(text.c_str());
+    }
+    copy.GetWpt().GetAt(copy.GetWpt().GetCount() - 1).SetEle(ZrXmlLib16::CDecimal(L"0.001"));
+    Print(L"  After one change to the copy they differ, first at " + Demo::FindDifference(gpx, copy) + L"\n");
+}
+
 /// @return whether reading the file gives objects equal to the given ones.
 bool CheckCopy(Gpx::CGpx& gpx, const std::string& fileName)
 {
@@ -121,9 +136,7 @@ bool CheckCopy(Gpx::CGpx& gpx, const std::string& fileName)
         return false;
     }
     std::printf("  The second reading gives equal objects.\n");
-    Gpx::CWptType& waypoint = copy.gpx->GetWpt().GetAt(copy.gpx->GetWpt().GetCount() - 1);
-    waypoint.SetEle(ZrXmlLib16::CDecimal(L"0.001"));
-    Print(L"  After one change to the copy they differ, first at " + Demo::FindDifference(gpx, *copy.gpx) + L"\n");
+    ChangeCopy(gpx, *copy.gpx);
     return true;
 }
 

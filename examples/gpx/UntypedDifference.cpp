@@ -23,13 +23,6 @@ struct Pair {
     std::wstring path;
 };
 
-std::wstring Trim(const std::wstring& text)
-{
-    constexpr wchar_t BLANKS[] = L" \t\r\n";
-    const std::size_t first = text.find_first_not_of(BLANKS);
-    return first == std::wstring::npos ? L"" : text.substr(first, text.find_last_not_of(BLANKS) - first + 1);
-}
-
 /// @return the name of an attribute of the left that the right does not have or has with another value; empty when
 /// there is none.
 std::wstring FindAttributeDifference(const CAttributeCol& left, const CAttributeCol& right)
@@ -57,9 +50,7 @@ std::wstring FindOwnDifference(const CElement& left, const CElement& right)
     if (!attribute.empty()) {
         return L"/@" + attribute;
     }
-    const bool isLeaf = left.GetElements()->GetCount() == 0;
-    const bool isEqual = isLeaf ? left.GetText() == right.GetText() : Trim(left.GetText()) == Trim(right.GetText());
-    return isEqual ? L"" : L"/text()";
+    return left.GetText() == right.GetText() ? L"" : L"/text()";
 }
 
 /// For lists of the same length. The first pair comes to lie on top.

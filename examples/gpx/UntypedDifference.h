@@ -9,7 +9,7 @@
 namespace Demo {
 
 /// Compares two lists of untyped elements with everything below them: names, namespaces, attributes in any order, text
-/// and children. Blanks around the text of an element with children do not count, because formatting adds to them.
+/// and children.
 /// @return the path of the first difference below the list, such as /\*[1]/\*[2]/@unit; "/\*" when one list is longer;
 /// empty when they are equal.
 std::wstring FindUntypedDifference(const ZrXmlLib16::CElementCol& left, const ZrXmlLib16::CElementCol& right);
