@@ -2,6 +2,8 @@
 #include "ZrXmlLib16/SerializationContext.h"
 
 #include "ZrXmlLib16/AttributeCol.h"
+#include "ZrXmlLib16/FastInfosetContext.h"
+#include "ZrXmlLib16/JsonContext.h"
 #include "ZrXmlLib16/ZrInvalidParamException.h"
 #include "ZrXmlLib16/ZrInvalidStateException.h"
 #include "core/CoreMessages.h"
@@ -39,6 +41,32 @@ CSerializationContext::CSerializationContext(const CSerializationContext& other)
 CSerializationContext::~CSerializationContext() = default;
 
 CSerializationContext& CSerializationContext::operator=(const CSerializationContext& other) = default;
+
+CFastInfosetContext& CSerializationContext::GetFIContext() const
+{
+    if (!m_fastInfosetContext) {
+        m_fastInfosetContext = std::make_shared<CFastInfosetContext>();
+    }
+    return *m_fastInfosetContext;
+}
+
+const CFastInfosetContext* CSerializationContext::FindFIContext() const
+{
+    return m_fastInfosetContext.get();
+}
+
+CJsonContext& CSerializationContext::GetJsonContext() const
+{
+    if (!m_jsonContext) {
+        m_jsonContext = std::make_shared<CJsonContext>();
+    }
+    return *m_jsonContext;
+}
+
+const CJsonContext* CSerializationContext::FindJsonContext() const
+{
+    return m_jsonContext.get();
+}
 
 std::wstring CSerializationContext::GetDefaultNamespaceURI() const
 {

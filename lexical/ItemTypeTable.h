@@ -11,6 +11,15 @@ namespace ZrXmlLib16 {
 class CPrimitiveRestrictions;
 class ZrVariant;
 
+/// The compact encoding that Fast Infoset documents are advised to use for an item type. The kinds up to
+/// EncodingAlgorithm have the values of CFastInfosetContext::EncodingKind.
+struct SuggestedEncoding {
+    enum Kind { Literal = 0, RestrictedAlphabet = 1, EncodingAlgorithm = 2, Unchanged = 3 };
+
+    Kind kind;
+    unsigned long number;
+};
+
 /// What is known about one primitive item type. A new type is a row of the table plus the functions the row names.
 struct ItemTypeRow {
     /// As ZrVariant::GetType() returns it.
@@ -22,6 +31,9 @@ struct ItemTypeRow {
     void (*format)(const ZrVariant& value, const wchar_t* numberFormat, std::wstring& text);
     /// Throws CZrException on the first violated facet. The value must hold this row's type.
     void (*checkFacets)(const wchar_t* name, const ZrVariant& value, const CPrimitiveRestrictions& facets);
+    /// Whether JSON shows a value without quotation marks.
+    bool isBareInJson;
+    SuggestedEncoding suggestedEncoding;
 };
 
 /// The row of an item type from 1 to 26; null for every other number.

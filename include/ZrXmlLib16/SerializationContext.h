@@ -8,16 +8,21 @@
 #include "ZrXmlLib16/SmartPtr.h"
 
 #include <list>
+#include <memory>
 #include <string>
 
 namespace ZrXmlLib16 {
 
 class CAttributeCol;
+class CFastInfosetContext;
+class CJsonContext;
 
 /// The settings of a read or write call. Passed as a constant reference to every entry point of CXmlObjectBase.
 ///
-/// Copies share the additional root attributes; everything else is copied. A context belongs to one thread at a time,
-/// or is fully set up before it is shared: GetAdditionalRootAttributes creates its collection on first use.
+/// Copies share the additional root attributes and the settings of JSON and Fast Infoset that were asked for already;
+/// everything else is copied. A context belongs to one thread at a time, or is fully set up before it is shared:
+/// GetFIContext, GetJsonContext and GetAdditionalRootAttributes create what they return on first use, and reading JSON
+/// in a mode other than JsonRoundTrip_Full changes GetIgnoreNamespaces for the time of the call.
 class ZRXML_API CSerializationContext {
 public:
     /// Settings of the calls that name none. Exists from load to unload.
@@ -28,6 +33,10 @@ public:
     ~CSerializationContext();
     CSerializationContext& operator=(const CSerializationContext& other);
 
+    /// The settings of Fast Infoset: the same object on every call, created on the first one.
+    CFastInfosetContext& GetFIContext() const;
+    /// The settings of JSON: the same object on every call, created on the first one.
+    CJsonContext& GetJsonContext() const;
     /// Namespace that unprefixed element names of a written document are in; empty for none, which is the default.
     std::wstring GetDefaultNamespaceURI() const;
     void SetDefaultNamespaceURI(const wchar_t* uri);
@@ -89,11 +98,16 @@ public:
     void SetMaxDepth(int levels);
 
 private:
+    friend class CFormatSettings;
     friend class CXmlGeneratedClass;
 
-    /// The additional root attributes when some were asked for, else null. Creates nothing.
+    /// What was asked for before, else null. These create nothing.
     const CAttributeCol* FindAdditionalRootAttributes() const;
+    const CFastInfosetContext* FindFIContext() const;
+    const CJsonContext* FindJsonContext() const;
 
+    mutable std::shared_ptr<CFastInfosetContext> m_fastInfosetContext;
+    mutable std::shared_ptr<CJsonContext> m_jsonContext;
     std::wstring m_defaultNamespaceUri;
     bool m_writeTypeAttribute;
     CNamespaceAliasMap m_namespaceAliases;
@@ -105,7 +119,7 @@ private:
     bool m_ignoreMissingMandatoryElements;
     bool m_ignoreUnknownElements;
     bool m_ignoreUnknownAttributes;
-    bool m_ignoreNamespaces;
+    mutable bool m_ignoreNamespaces; // see CFormatSettings::IgnoringNamespaces
     SchemaType m_schemaType;
     bool m_noOptionalAttributeDefaultOutput;
     bool m_writeDefaultElementValues;

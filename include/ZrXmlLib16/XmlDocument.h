@@ -87,6 +87,7 @@ public:
 
 private:
     friend class CExpatReader;
+    friend class CFastInfosetReader;
 
     struct StorageDeleter {
         void operator()(DocumentStorage* storage) const noexcept;

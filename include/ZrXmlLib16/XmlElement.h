@@ -68,6 +68,7 @@ public:
 private:
     friend class CXmlDocument;
     friend class CExpatReader;
+    friend class CFastInfosetReader;
 
     CXmlElement(CXmlDocument* document, CXmlElement* parent, const XmlName* name);
     static void* operator new(std::size_t size, NodePool& pool);

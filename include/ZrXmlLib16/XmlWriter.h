@@ -60,6 +60,8 @@ public:
     private:
         friend class CXmlWriter;
         friend class CXmlTextWriter;
+        friend class CJsonTextWriter;
+        friend class CFastInfosetWriter;
 
         CXmlWriterContext();
         void BeginRoot(unsigned long depth, const std::wstring& defaultNamespace, const NamespaceMap& namespaceMap);
