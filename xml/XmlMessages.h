@@ -14,6 +14,12 @@ constexpr wchar_t FILE_OPEN_FAILED[] = L"Failed to open the file [%ls].";
 constexpr wchar_t FILE_SIZE_FAILED[] = L"Failed to get the size of the file [%ls] Error [%d]";
 /// file name, system error number
 constexpr wchar_t FILE_READ_FAILED[] = L"Failed to read the contents of the file [%ls] Error [%d]";
+/// limit in octets
+constexpr wchar_t DOCUMENT_TOO_LARGE[] = L"The document exceeds the limit of %lu octets.";
+/// limit
+constexpr wchar_t TOO_MANY_ELEMENTS[] = L"The document exceeds the limit of %lu elements.";
+constexpr wchar_t JSON_STRING_EMPTY[] = L"JSON String is empty!";
+constexpr wchar_t JSON_STREAM_EMPTY[] = L"JSON Stream is empty!";
 /// description, line
 constexpr wchar_t PARSE_FAILED[] = L"%ls at line %d";
 constexpr wchar_t NO_ELEMENT_OPEN_IN_DOCUMENT[] = L"The document has no open element.";

@@ -29,6 +29,7 @@
 #include "ZrXmlLib16/Formatting.h"
 #include "ZrXmlLib16/IEventSink.h"
 #include "ZrXmlLib16/INillable.h"
+#include "ZrXmlLib16/InputLimits.h"
 #include "ZrXmlLib16/ItemType.h"
 #include "ZrXmlLib16/JsonContext.h"
 #include "ZrXmlLib16/JsonRoundTrip.h"
