@@ -20,11 +20,11 @@ TEST(JsonWriterWalk, CollectionsOfEveryKind)
     order.Add(L"leaf")->Set(L"text", L"b");
     order.Add(L"base", &derived)->Set(L"more", L"true");
     for (const wchar_t* value : {L"x", L"y"})
-        order.Elements(L"free")->Add(L"free")->SetText(value);
-    order.Set(L"last", L"1.50");
+        order.Elements(L"free")->Add(L"free", L"")->SetText(value);
+    order.Set(L"last", L"1.5");
     ExpectJson(L"{\"order\": {\"n\": [1,2],\"colour\": [\"red\"],\"leaf\": [{\"@id\": 1,\"text\": \"a\"},{\"text\": "
                L"\"b\"}],\"base\": [{\"@xmlns:xsi\": \"http://www.w3.org/2001/XMLSchema-instance\",\"@xsi:type\": "
-               L"\"derived\",\"more\": true}],\"free\": [\"x\",\"y\"],\"last\": 1.50}}",
+               L"\"derived\",\"more\": true}],\"free\": [\"x\",\"y\"],\"last\": 1.5}}",
         JsonWalk(order), JsonRoundTrip_Full);
 }
 
