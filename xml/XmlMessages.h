@@ -28,6 +28,8 @@ constexpr wchar_t ELEMENT_NOT_CLOSED[] = L"An Element has not been closed.";
 constexpr wchar_t ATTRIBUTE_AFTER_CONTENT[] = L"Attributes must be added before elements";
 constexpr wchar_t HEADER_AFTER_ELEMENT[] = L"Headed directives must appear before an Element has been added.";
 constexpr wchar_t INVALID_EOL_TYPE[] = L"Invalid EOL type.";
+/// local name of an element, an attribute or a type
+constexpr wchar_t UNKNOWN_NAMESPACE[] = L"Unknown Namespace: %ls.";
 constexpr wchar_t NO_ELEMENT_TO_END[] = L"There is no open element to end.";
 
 } // namespace Message

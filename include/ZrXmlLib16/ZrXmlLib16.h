@@ -33,6 +33,7 @@
 #include "ZrXmlLib16/ItemType.h"
 #include "ZrXmlLib16/JsonContext.h"
 #include "ZrXmlLib16/JsonRoundTrip.h"
+#include "ZrXmlLib16/JsonTextWriter.h"
 #include "ZrXmlLib16/NamespaceAliasMap.h"
 #include "ZrXmlLib16/PrimitiveRestrictions.h"
 #include "ZrXmlLib16/SchemaType.h"
