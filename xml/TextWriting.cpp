@@ -3,15 +3,8 @@
 
 #include "ZrXmlLib16/ZrException.h"
 #include "xml/XmlMessages.h"
-#include "xml/XmlNamespaces.h"
 
 namespace ZrXmlLib16 {
-
-const InstanceAttributeNames& GetInstanceAttributeNames()
-{
-    static const InstanceAttributeNames names{SCHEMA_INSTANCE_NAMESPACE_URI, L"type", L"nil", L"true"};
-    return names;
-}
 
 const wchar_t* EndOfLineText(EOLType type)
 {

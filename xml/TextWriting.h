@@ -10,16 +10,6 @@
 /// What the writers of XML text and of JSON text have in common.
 namespace ZrXmlLib16 {
 
-/// The names of the attributes that a writer adds by itself, ready to be passed as arguments.
-struct InstanceAttributeNames {
-    const std::wstring namespaceUri;
-    const std::wstring type;
-    const std::wstring nil;
-    const std::wstring trueValue;
-};
-
-const InstanceAttributeNames& GetInstanceAttributeNames();
-
 /// @throws CZrException for a value outside the enumeration.
 const wchar_t* EndOfLineText(EOLType type);
 

@@ -4,6 +4,7 @@
 #include "ZrXmlLib16/ZrException.h"
 #include "ZrXmlLib16/ZrInvalidStateException.h"
 #include "core/TextArgument.h"
+#include "xml/InstanceAttributeNames.h"
 #include "xml/TextWriting.h"
 #include "xml/XmlMessages.h"
 #include "xml/XmlNamespaces.h"
