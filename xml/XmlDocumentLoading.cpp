@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The loaders of CXmlDocument: each fills the input buffer and has it parsed.
+#include "ZrXmlLib16/FastInfosetReader.h"
 #include "ZrXmlLib16/Formatting.h"
 #include "ZrXmlLib16/XmlDocument.h"
 #include "ZrXmlLib16/XmlElement.h"
 #include "ZrXmlLib16/ZrException.h"
 #include "ZrXmlLib16/ZrZip.h"
+#include "core/FormatSettings.h"
 #include "core/TextArgument.h"
 #include "streams/FileHandle.h"
 #include "xml/DocumentStorage.h"
@@ -140,14 +142,19 @@ void CXmlDocument::Parse()
     if (MayBeCompressed()) {
         Decompress();
     }
-    ParseText();
+    if (CFastInfosetReader::HasHeader(m_input, m_inputSize)) {
+        CFastInfosetReader(CFormatSettings::FastInfoset(*m_context), *this).Parse();
+    } else {
+        ParseText();
+    }
 }
 
-// Text begins with "<" or a byte-order mark, compressed data never does: most input needs no copy of its own.
+// gzip begins with 1F, zlib with an octet that ends in 8 and that neither text nor Fast Infoset begin with: most input
+// needs no copy of its own.
 bool CXmlDocument::MayBeCompressed() const
 {
     const unsigned char first = *m_input;
-    return first != '<' && first != 0xEF && first != 0xFE && first != 0xFF;
+    return first == 0x1F || (first & 0x0F) == 8;
 }
 
 void CXmlDocument::Decompress()

@@ -24,6 +24,7 @@
 #include "ZrXmlLib16/FIVocabulary.h"
 #include "ZrXmlLib16/FInfoDecl.h"
 #include "ZrXmlLib16/FastInfosetContext.h"
+#include "ZrXmlLib16/FastInfosetReader.h"
 #include "ZrXmlLib16/FileBinaryStream.h"
 #include "ZrXmlLib16/FileTextStream.h"
 #include "ZrXmlLib16/Formatting.h"
