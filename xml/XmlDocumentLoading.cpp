@@ -173,8 +173,9 @@ void CXmlDocument::Parse()
 {
     CheckInputSize();
     Decompress();
-    if (!CFastInfosetReader::HasHeader(m_input, m_inputSize)
-        || !CFastInfosetReader(CFormatSettings::FastInfoset(*m_context), *this).Parse()) {
+    if (CFastInfosetReader::HasHeader(m_input, m_inputSize)) {
+        CFastInfosetReader(CFormatSettings::FastInfoset(*m_context), *this).Parse();
+    } else {
         ParseText();
     }
 }

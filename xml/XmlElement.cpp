@@ -112,9 +112,15 @@ void CXmlElement::AddAttribute(
 
 void CXmlElement::AddParsedAttribute(const XmlName& name, const Utf16Unit* value)
 {
+    AssignUtf16(AddParsedAttribute(name), value, Utf16Length(value));
+}
+
+std::wstring& CXmlElement::AddParsedAttribute(const XmlName& name)
+{
     std::unique_ptr<CXmlAttribute> attribute(new (name.storage->GetAttributePool()) CXmlAttribute(this, name));
-    AssignUtf16(attribute->m_value, value, Utf16Length(value));
+    std::wstring& value = attribute->m_value;
     AppendAttribute(std::move(attribute));
+    return value;
 }
 
 void CXmlElement::AppendAttribute(std::unique_ptr<CXmlAttribute> attribute)

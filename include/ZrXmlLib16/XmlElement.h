@@ -77,6 +77,8 @@ private:
     CXmlElement* AppendChild(std::unique_ptr<CXmlElement> child);
     void AppendAttribute(std::unique_ptr<CXmlAttribute> attribute);
     void AddParsedAttribute(const XmlName& name, const unsigned short* value);
+    /// @return the empty value, for the reader to fill.
+    std::wstring& AddParsedAttribute(const XmlName& name);
     DocumentStorage* GetStorage() const;
     void SetName(const std::wstring& namespaceUri, const std::wstring& localName);
     bool HasSameQName(const CXmlElement& sibling) const;

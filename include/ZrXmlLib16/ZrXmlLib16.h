@@ -25,6 +25,7 @@
 #include "ZrXmlLib16/FInfoDecl.h"
 #include "ZrXmlLib16/FastInfosetBinaryData.h"
 #include "ZrXmlLib16/FastInfosetContext.h"
+#include "ZrXmlLib16/FastInfosetReader.h"
 #include "ZrXmlLib16/FastInfosetWriter.h"
 #include "ZrXmlLib16/FileBinaryStream.h"
 #include "ZrXmlLib16/FileTextStream.h"
