@@ -5,6 +5,7 @@
 #include "ZrXmlLib16/XmlDocument.h"
 #include "ZrXmlLib16/XmlElement.h"
 #include "ZrXmlLib16/ZrException.h"
+#include "core/FormatSettings.h"
 #include "fastinfoset/EncodedString.h"
 #include "fastinfoset/FastInfosetHeader.h"
 #include "fastinfoset/OctetReader.h"
@@ -388,9 +389,7 @@ void CFastInfosetReader::Decoder::CountIndexedText(const std::wstring& text)
 /// In characters.
 std::uint64_t CFastInfosetReader::Decoder::GetIndexedTextLimit() const
 {
-    constexpr std::uint64_t ALWAYS_ALLOWED = 64 * 1024 * 1024;
-    constexpr std::uint64_t FACTOR = 100;
-    return std::max(ALWAYS_ALLOWED, FACTOR * m_inputLength);
+    return CFormatSettings::MaximumExpansion(m_document.GetSerializationContext(), m_inputLength);
 }
 
 } // namespace ZrXmlLib16
