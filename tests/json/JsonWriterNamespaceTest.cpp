@@ -48,9 +48,10 @@ TEST(JsonWriterNamespaces, keeps_TheNameInTheMessageOfAnUnknownNamespace)
         {L"<r <c +p,urn:u > <d,urn:u > >", L"Unknown Namespace: d."},
     };
     for (const auto& [script, message] : cases) {
-        EXPECT_EQ(message, MessageOf<CZrException>([&] { WriteJson(JsonScript(script)); })) << Narrow(script);
-        WriteJson(JsonScript(script), {JsonRoundTrip_Plain});
-        WriteJson(JsonScript(script), {JsonRoundTrip_Attributes});
+        const JsonEvents events = JsonScript(script);
+        EXPECT_EQ(message, MessageOf<CZrException>([&] { WriteJson(events); })) << Narrow(script);
+        WriteJson(events, {JsonRoundTrip_Plain});
+        WriteJson(events, {JsonRoundTrip_Attributes});
     }
 }
 
