@@ -314,6 +314,4 @@ CElementInfo** OrderList::GetClassElementInfo() const
     return records;
 }
 
-
-
 } // namespace PurchaseOrders
