@@ -2,9 +2,9 @@
 #include "benchmarks/CpuClock.h"
 #include "benchmarks/Measurement.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <functional>
 #include <stdexcept>
 #include <sys/wait.h>
 #include <unistd.h>

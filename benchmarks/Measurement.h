@@ -13,8 +13,8 @@
 struct Effort {
     unsigned standardOrders;
     unsigned largeOrders;
-    unsigned standardRepetitions;
-    unsigned largeRepetitions;
+    unsigned standardRepetitions;       ///< in each of several passes
+    unsigned largeRepetitions;          ///< as well
     unsigned smallRuns;                 ///< of a small document, timed together
     std::vector<unsigned> growthOrders; ///< empty to leave the growth out
     unsigned shapeDivisor;              ///< of the sizes of the shapes
