@@ -30,7 +30,7 @@ std::ptrdiff_t BytesOf(void* block)
 
 void* Taken(void* block)
 {
-    if (tally.active && block) {
+    if (block) {
         ++tally.blocks;
         tally.bytes += BytesOf(block);
         if (tally.bytes > tally.peakBytes) {
@@ -38,13 +38,6 @@ void* Taken(void* block)
         }
     }
     return block;
-}
-
-void Returned(void* block)
-{
-    if (tally.active && block) {
-        tally.bytes -= BytesOf(block);
-    }
 }
 
 #endif
@@ -79,19 +72,23 @@ void* __libc_calloc(std::size_t count, std::size_t size);
 void* __libc_realloc(void* block, std::size_t size);
 void __libc_free(void* block);
 
+// What is measured pays for no more than one test of the flag.
 void* malloc(std::size_t size)
 {
-    return Taken(__libc_malloc(size));
+    return tally.active ? Taken(__libc_malloc(size)) : __libc_malloc(size);
 }
 
 void* calloc(std::size_t count, std::size_t size)
 {
-    return Taken(__libc_calloc(count, size));
+    return tally.active ? Taken(__libc_calloc(count, size)) : __libc_calloc(count, size);
 }
 
 void* realloc(void* block, std::size_t size)
 {
-    const std::ptrdiff_t before = tally.active && block ? BytesOf(block) : 0;
+    if (!tally.active) {
+        return __libc_realloc(block, size);
+    }
+    const std::ptrdiff_t before = block ? BytesOf(block) : 0;
     void* moved = __libc_realloc(block, size);
     if (moved || size == 0) {
         tally.bytes -= before;
@@ -101,7 +98,9 @@ void* realloc(void* block, std::size_t size)
 
 void free(void* block)
 {
-    Returned(block);
+    if (tally.active && block) {
+        tally.bytes -= BytesOf(block);
+    }
     __libc_free(block);
 }
 }
