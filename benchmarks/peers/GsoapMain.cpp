@@ -32,8 +32,6 @@ public:
 
     void Read(const std::string& bytes) override
     {
-        soap_destroy(m_context.get());
-        soap_end(m_context.get());
         m_objects = soap_new__ns1__purchaseOrders(m_context.get());
         ViewBuffer buffer(bytes);
         std::istream stream(&buffer);
@@ -41,6 +39,12 @@ public:
         const int failure = soap_read__ns1__purchaseOrders(m_context.get(), m_objects);
         m_context->is = nullptr;
         Require(failure);
+    }
+
+    void Clear() override
+    {
+        soap_destroy(m_context.get());
+        soap_end(m_context.get());
     }
 
     void Write() override

@@ -32,18 +32,24 @@ void Measure(Peer& peer)
     peer.Read(document);
     peer.Write();
     RequireSameValues(peer.GetWritten(), document);
+    peer.Clear();
     double floor = 0;
     double read = 0;
     double write = 0;
     for (unsigned pass = 0; pass < passes; ++pass) {
         for (unsigned i = 0; i < repetitions; ++i) {
             KeepBest(floor, SecondsOf([&] { ParseOnly(document); }));
-            KeepBest(read, SecondsOf([&] { peer.Read(document); }));
+            KeepBest(read, SecondsOf([&] {
+                peer.Read(document);
+                peer.Clear();
+            }));
         }
+        peer.Read(document);
         for (unsigned i = 0; i < repetitions; ++i) {
             KeepBest(floor, SecondsOf([&] { ParseOnly(document); }));
             KeepBest(write, SecondsOf([&] { peer.Write(); }));
         }
+        peer.Clear();
     }
     std::printf(
         "%-12s %10.1f %10.1f %8.2f %8.2f\n", peer.GetName(), read * 1e6, write * 1e6, read / floor, write / floor);

@@ -9,9 +9,11 @@ class Peer {
 public:
     virtual ~Peer() = default;
     virtual const char* GetName() const = 0;
-    /// Reads the document into objects, which take the place of the ones before.
+    /// Reads the document into objects; there are none yet.
     /// @throws std::runtime_error when the library refuses the document.
     virtual void Read(const std::string& bytes) = 0;
+    /// Destroys the objects, which counts as a part of reading.
+    virtual void Clear() = 0;
     /// Writes the objects that were read last, in UTF-8.
     virtual void Write() = 0;
     /// A copy of what Write made.

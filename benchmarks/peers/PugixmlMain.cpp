@@ -190,11 +190,12 @@ public:
         if (!document.load_buffer(bytes.data(), bytes.size())) {
             throw std::runtime_error("the document is not well-formed");
         }
-        m_orders.clear();
         for (xml_node node : document.document_element().children("purchaseOrder")) {
             m_orders.push_back(ReadOrder(node));
         }
     }
+
+    void Clear() override { m_orders = {}; }
 
     void Write() override
     {

@@ -26,13 +26,14 @@ public:
         ViewBuffer buffer(bytes);
         std::istream stream(&buffer);
         try {
-            m_objects.reset();
             m_objects =
                 Bound::purchaseOrders_(stream, xml_schema::flags::dont_validate | xml_schema::flags::dont_initialize);
         } catch (const xml_schema::exception& failure) {
             throw std::runtime_error(failure.what());
         }
     }
+
+    void Clear() override { m_objects.reset(); }
 
     void Write() override
     {
