@@ -14,6 +14,7 @@
 #include "core/DepthGuard.h"
 #include "core/NilAttribute.h"
 #include "core/SeenFlags.h"
+#include "xml/NodeAccess.h"
 
 namespace ZrXmlLib16 {
 
@@ -101,9 +102,9 @@ void CXmlGeneratedClass::ReadSimpleContent(const CXmlElement* element)
     }
     ZrVariant value;
     if (info.GetStoreUnparsed()) {
-        value.SetString(element->GetText());
+        value.SetString(NodeAccess::CopyText(*element));
     } else {
-        value.FromString(element->GetText(), info.GetValueType(), CWhitespaceUtils::Rule_None);
+        NodeAccess::ParseText(*element, info.GetValueType(), CWhitespaceUtils::Rule_None, value);
     }
     AccessProperty(info.GetValueProperty(), false, value);
     m_touched = true;
@@ -116,7 +117,8 @@ void CXmlGeneratedClass::ProcessAttributesFromXml(
     const std::size_t count = CountRecords(records);
     CSeenFlags seen(count);
     const bool ownsElement = GetClassInfo()->GetElementType() == XmlElementType_Element;
-    for (CXmlAttribute* attribute : element->GetAttributes()) {
+    for (CXmlAttribute* attribute = NodeAccess::GetFirstAttribute(*element); attribute;
+         attribute = NodeAccess::GetNextAttribute(*element, *attribute)) {
         if (IsDeclaration(context, *attribute)) {
             continue;
         }

@@ -65,6 +65,11 @@ void CXmlDocument::Init()
 void CXmlDocument::DestroyTree() noexcept
 {
     m_elementStack.clear();
+    if (m_storage && m_storage->HasWholeTree()) {
+        static_cast<void>(m_documentElement.release());
+        m_storage.release()->Drop();
+        return;
+    }
     m_documentElement.reset();
     m_storage.reset();
 }
@@ -172,7 +177,7 @@ void CXmlDocument::EndElement()
         return;
     }
     CXmlElement* const parent = m_elementStack.back();
-    if (parent->m_lastChild == element) {
+    if (parent->GetLastElement() == element) {
         delete parent->RemoveLastChildElement();
     }
 }
