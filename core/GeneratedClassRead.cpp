@@ -10,6 +10,7 @@
 #include "ZrXmlLib16/ZrVariant.h"
 #include "ZrXmlLib16Data/AttributeInfo.h"
 #include "ZrXmlLib16Data/ParentElementInfo.h"
+#include "core/ClassTraits.h"
 #include "core/CoreMessages.h"
 #include "core/DepthGuard.h"
 #include "core/NilAttribute.h"
@@ -69,7 +70,7 @@ CXmlElement* CXmlGeneratedClass::ReadContent(
     CXmlElement* element, CXmlElement* cursor, const CSerializationContext& context, bool isOptional)
 {
     ProcessAttributesFromXml(context, element, GetClassInfo()->GetRejectUnknownAttributes());
-    const INillable* nillable = dynamic_cast<const INillable*>(this);
+    const INillable* nillable = CClassTraits(*this, GetClassInfo(), *element).GetNillable();
     if (nillable && nillable->IsNil()) {
         m_satisfied = true;
         return cursor;
@@ -123,7 +124,7 @@ void CXmlGeneratedClass::ProcessAttributesFromXml(
             continue;
         }
         if (attribute->IsNilAttribute()) {
-            INillable* nillable = dynamic_cast<INillable*>(this);
+            INillable* nillable = CClassTraits(*this, GetClassInfo(), *element).GetNillable();
             if (nillable) {
                 nillable->SetNil(ParseNil(*attribute));
                 m_touched = true;

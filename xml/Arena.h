@@ -12,7 +12,11 @@ namespace ZrXmlLib16 {
 /// Memory that is handed out piece by piece and given back as a whole. Never destroys what lies in it.
 class Arena {
 public:
-    Arena() = default;
+    /// @param expectedSize how much will be needed, as far as that is known; it is taken in one piece.
+    explicit Arena(std::size_t expectedSize) noexcept
+        : m_expectedSize(expectedSize)
+    {
+    }
     Arena(const Arena&) = delete;
     Arena& operator=(const Arena&) = delete;
 
@@ -44,6 +48,7 @@ private:
 
     unsigned char* m_free = nullptr; // the untouched rest of the newest chunk
     unsigned char* m_end = nullptr;
+    const std::size_t m_expectedSize;
     std::size_t m_total = 0; // bytes of all chunks
     std::vector<std::unique_ptr<unsigned char[]>> m_chunks;
 };

@@ -4,6 +4,7 @@
 #include "ZrXmlLib16/XmlAttribute.h"
 #include "ZrXmlLib16/XmlElement.h"
 
+#include <algorithm>
 #include <cstring>
 #include <new>
 
@@ -14,6 +15,10 @@ namespace {
 constexpr std::size_t HEADER_SIZE = sizeof(NodePool*);
 // A heap node keeps the alignment that operator new promises to any type.
 constexpr std::size_t HEAP_OFFSET = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
+
+// Typical documents need a little less per byte of their text.
+constexpr std::size_t ARENA_PER_INPUT = 5;
+constexpr std::size_t LARGEST_ESTIMATED_INPUT = std::size_t(1) << 30;
 
 static_assert(alignof(CXmlElement) <= HEADER_SIZE && sizeof(CXmlElement) % HEADER_SIZE == 0);
 static_assert(alignof(CXmlAttribute) <= HEADER_SIZE && sizeof(CXmlAttribute) % HEADER_SIZE == 0);
@@ -85,8 +90,10 @@ void XmlNameRelease::operator()(const XmlName* name) const noexcept
     }
 }
 
-DocumentStorage::DocumentStorage()
-    : m_elements(*this, sizeof(CXmlElement))
+DocumentStorage::DocumentStorage(std::size_t inputSize)
+    : m_arena(std::min(inputSize, LARGEST_ESTIMATED_INPUT) * ARENA_PER_INPUT)
+    , m_classes(m_arena)
+    , m_elements(*this, sizeof(CXmlElement))
     , m_attributes(*this, sizeof(CXmlAttribute))
     , m_names(*this)
 {

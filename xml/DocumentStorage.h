@@ -4,6 +4,7 @@
 
 #include "ZrXmlLib16/NodeText.h"
 #include "xml/Arena.h"
+#include "xml/ClassMemory.h"
 #include "xml/NameTable.h"
 
 #include <cstddef>
@@ -35,7 +36,8 @@ private:
 /// that a caller took out of the tree and has not deleted yet: these stay valid.
 class DocumentStorage {
 public:
-    DocumentStorage();
+    /// @param inputSize bytes of the document's text, 0 when unknown.
+    explicit DocumentStorage(std::size_t inputSize);
     DocumentStorage(const DocumentStorage&) = delete;
     DocumentStorage& operator=(const DocumentStorage&) = delete;
 
@@ -52,6 +54,7 @@ public:
     NodePool& GetElementPool() noexcept { return m_elements; }
     NodePool& GetAttributePool() noexcept { return m_attributes; }
     NameTable& GetNames() noexcept { return m_names; }
+    ClassMemory& GetClassMemory() noexcept { return m_classes; }
     Arena& GetArena() noexcept { return m_arena; }
     /// For the text that is being read; keeps its capacity from one to the next.
     std::wstring& GetScratch() noexcept { return m_scratch; }
@@ -68,6 +71,7 @@ private:
     void NodeFreed() noexcept;
 
     Arena m_arena;
+    ClassMemory m_classes;
     NodePool m_elements;
     NodePool m_attributes;
     NameTable m_names;

@@ -2,6 +2,7 @@
 #include "xml/NodeAccess.h"
 
 #include "ZrXmlLib16/ZrVariant.h"
+#include "xml/DocumentStorage.h"
 
 namespace ZrXmlLib16 {
 
@@ -13,6 +14,12 @@ bool KeepsText(const NodeText& text, CWhitespaceUtils::WhitespaceRule rule)
 }
 
 } // namespace
+
+ClassMemory* NodeAccess::GetClassMemory(const CXmlElement& element)
+{
+    DocumentStorage* const storage = element.GetStorage();
+    return storage ? &storage->GetClassMemory() : nullptr;
+}
 
 void NodeAccess::Parse(const NodeText& text, DocumentStorage* storage, ItemType type,
     CWhitespaceUtils::WhitespaceRule rule, ZrVariant& result)

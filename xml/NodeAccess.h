@@ -8,12 +8,16 @@
 
 namespace ZrXmlLib16 {
 
+class ClassMemory;
 class ZrVariant;
 
 /// How the walks and the builders of trees reach nodes without the public forms, which take memory of their own as soon
 /// as somebody asks for them.
 class NodeAccess {
 public:
+    /// Null for an element that was built by hand.
+    static ClassMemory* GetClassMemory(const CXmlElement& element);
+
     /// The attributes in document order; null ends them.
     static CXmlAttribute* GetFirstAttribute(const CXmlElement& element)
     {

@@ -89,7 +89,7 @@ void CXmlDocument::StorageDeleter::operator()(DocumentStorage* storage) const no
 DocumentStorage& CXmlDocument::GetStorage()
 {
     if (!m_storage) {
-        m_storage.reset(new DocumentStorage);
+        m_storage.reset(new DocumentStorage(m_inputSize));
     }
     return *m_storage;
 }
