@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "ZrXmlLib16/Formatting.h"
 #include "ZrXmlLib16/JsonContext.h"
 #include "ZrXmlLib16/JsonReaderToXmlHandler.h"
 #include "ZrXmlLib16/JsonTextReader.h"
 #include "ZrXmlLib16/TextStream.h"
 #include "ZrXmlLib16/XmlTextWriter.h"
+#include "ZrXmlLib16/ZrException.h"
 #include "core/FormatSettings.h"
+#include "json/JsonReaderMessages.h"
 
 namespace ZrXmlLib16 {
 
@@ -13,8 +16,10 @@ namespace {
 /// Encodes the text of a writer piece by piece, so that the whole of it is never held as wide text.
 class Utf8Collector : public CTextStream {
 public:
-    Utf8Collector()
+    /// @param maximumOctets of the encoded text.
+    explicit Utf8Collector(unsigned long maximumOctets)
         : CTextStream(Encoding_UTF8)
+        , m_maximumOctets(maximumOctets)
     {
     }
 
@@ -30,11 +35,15 @@ public:
     {
         m_octets.Append(GetEncodedStream());
         EmptyText();
+        if (m_octets.GetLength() > m_maximumOctets) {
+            throw CZrException(FormatString(Message::JSON_EXPANDS_TOO_FAR, m_maximumOctets));
+        }
     }
 
     const CBinaryData& GetOctets() const { return m_octets; }
 
 private:
+    const unsigned long m_maximumOctets;
     CBinaryData m_octets;
 };
 
@@ -43,7 +52,8 @@ private:
 CBinaryData CJsonTextReader::ConvertJsonToXml(const std::wstring& json, const CSerializationContext& context)
 {
     const CJsonContext& settings = CFormatSettings::Json(context);
-    Utf8Collector stream;
+    // The items of an array repeat its name: a short text may stand for a very long document.
+    Utf8Collector stream(CFormatSettings::MaximumExpansion(context, json.size()));
     CXmlTextWriter writer(stream);
     CJsonTextReader reader(json);
     CJsonReaderToXmlHandler handler(writer, settings.GetSupportRoundtrip(), *reader.GetErrorPathProvider());
