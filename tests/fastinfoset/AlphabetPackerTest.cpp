@@ -30,7 +30,7 @@ std::string Packed(const std::wstring& alphabet, const std::wstring& text)
 
 TEST(AlphabetPacker, TakesFourOrEightBits)
 {
-    for (const std::size_t length : {8, 9, 14, 15}) {
+    for (const std::size_t length : {8U, 9U, 14U, 15U}) {
         const std::wstring alphabet = AlphabetOf(length);
         EXPECT_EQ(Packed(alphabet, L"BCH"), "12 7F") << length;
         EXPECT_EQ(Packed(alphabet, L"AHGD"), "07 63") << length;

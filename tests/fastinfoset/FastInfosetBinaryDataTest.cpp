@@ -137,7 +137,7 @@ TEST(FastInfosetBinaryData, RefusesTextThatIsNoValue)
             row.message);
         EXPECT_EQ(data.GetLength(), 0U);
     }
-    for (const unsigned long algorithm : {0, 11}) {
+    for (const unsigned long algorithm : {0U, 11U}) {
         EXPECT_EQ(MessageOf<CZrException>([&] { CFastInfosetBinaryData().SetAsEncodedString(algorithm, L"1"); }),
             L"Unknown byte encoding.");
     }

@@ -5,7 +5,6 @@
 #include "fastinfoset/WriterFixture.h"
 #include "support/TestText.h"
 
-#include <memory>
 #include <vector>
 
 using namespace ZrXmlLib16;
@@ -43,6 +42,23 @@ std::string ElementText(const CFastInfosetContext& context, const std::wstring& 
     EXPECT_EQ(octets.substr(0, begin.size()), begin);
     EXPECT_EQ(octets.substr(octets.size() - end.size()), end);
     return octets.substr(begin.size(), octets.size() - begin.size() - end.size());
+}
+
+struct Failure {
+    std::wstring attributeMessage;
+    std::wstring textMessage;
+};
+
+// The messages for a value that is refused as attribute and as element text.
+Failure WriteRefused(const CFastInfosetContext& context, const std::wstring& value)
+{
+    WriterFixture test(context);
+    test.Start(L"e");
+    Failure failure;
+    failure.attributeMessage = MessageOf<CZrException>([&] { test.Attribute(L"a", L"", value, ItemType_decimal); });
+    EXPECT_EQ(OctetText(test.data), "7C 00 65 78 00 61") << "the stream has what was written before";
+    failure.textMessage = MessageOf<CZrException>([&] { test.String(value, ItemType_decimal); });
+    return failure;
 }
 
 constexpr auto ALPHABET = CFastInfosetContext::RestrictedAlphabet;
@@ -139,34 +155,36 @@ TEST(FastInfosetWriter, RefusesWhatItCannotEncode)
 {
     const struct {
         CFastInfosetContext::EncodedCharacterString encoding;
-        const wchar_t* value;
         const wchar_t* message;
-        const wchar_t* textMessage; // null: the same
     } cases[] = {
-        {{static_cast<CFastInfosetContext::EncodingKind>(3), 1}, L"1",
-            L"Failed to write FastInfoset. Unknown encoding in EncodedCharacterStringBit5.",
-            L"Failed to write FastInfoset. Unknown encoding in EncodedCharacterStringBit7."},
-        {{ALGORITHM, 0}, L"1", L"Failed to write FastInfoset. Invalid Encoding Algorithm value [0]", nullptr},
-        {{ALGORITHM, 11}, L"1", L"Failed to write FastInfoset. Invalid Encoding Algorithm value [11]", nullptr},
-        {{ALPHABET, 0}, L"1", L"Failed to write FastInfoset. Invalid Restricted Alphabet value [0]", nullptr},
-        {{ALPHABET, 3}, L"1", L"Failed to write FastInfoset. Invalid Restricted Alphabet value [3]", nullptr},
-        {{ALPHABET, 1}, L"1E3", L"Failed to write FastInfoset. Invalid character not found for Restricted Alphabet.",
-            nullptr},
-        {{CFastInfosetContext::Literal, 0}, L"utf16",
-            L"Failed to write FastInfoset. Unsupported Feature UTF16BE in EncodedCharacterStringBit5.", nullptr},
+        {{ALGORITHM, 0}, L"Failed to write FastInfoset. Invalid Encoding Algorithm value [0]"},
+        {{ALGORITHM, 11}, L"Failed to write FastInfoset. Invalid Encoding Algorithm value [11]"},
+        {{ALPHABET, 0}, L"Failed to write FastInfoset. Invalid Restricted Alphabet value [0]"},
+        {{ALPHABET, 3}, L"Failed to write FastInfoset. Invalid Restricted Alphabet value [3]"},
+        {{ALPHABET, 1}, L"Failed to write FastInfoset. Invalid character not found for Restricted Alphabet."},
     };
     for (const auto& row : cases) {
         CFastInfosetContext context;
         context.SetEncoding(ItemType_decimal, row.encoding);
-        context.SetDefaultStringEncoding(CFastInfosetContext::Utf16BE);
-        WriterFixture test(context);
-        test.Start(L"e");
-        EXPECT_EQ(
-            MessageOf<CZrException>([&] { test.Attribute(L"a", L"", row.value, ItemType_decimal); }), row.message);
-        EXPECT_EQ(OctetText(test.data), "7C 00 65 78 00 61") << "the stream has what was written before";
-        EXPECT_EQ(MessageOf<CZrException>([&] { test.String(row.value, ItemType_decimal); }),
-            row.textMessage ? row.textMessage : row.message);
+        const Failure failure = WriteRefused(context, L"1E3");
+        EXPECT_EQ(failure.attributeMessage, row.message);
+        EXPECT_EQ(failure.textMessage, row.message);
     }
+}
+
+TEST(FastInfosetWriter, keeps_MessagesThatNameOtherForms)
+{
+    CFastInfosetContext context;
+    context.SetDefaultStringEncoding(CFastInfosetContext::Utf16BE);
+    const Failure encoding = WriteRefused(context, L"1");
+    EXPECT_EQ(encoding.attributeMessage,
+        L"Failed to write FastInfoset. Unsupported Feature UTF16BE in EncodedCharacterStringBit5.");
+    EXPECT_EQ(encoding.textMessage, encoding.attributeMessage);
+
+    context.SetEncoding(ItemType_decimal, {static_cast<CFastInfosetContext::EncodingKind>(3), 1});
+    const Failure kind = WriteRefused(context, L"1");
+    EXPECT_EQ(kind.attributeMessage, L"Failed to write FastInfoset. Unknown encoding in EncodedCharacterStringBit5.");
+    EXPECT_EQ(kind.textMessage, L"Failed to write FastInfoset. Unknown encoding in EncodedCharacterStringBit7.");
 }
 
 TEST(FastInfosetWriter, PassesFailuresOfTheAlgorithms)
