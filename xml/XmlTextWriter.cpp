@@ -5,6 +5,7 @@
 #include "ZrXmlLib16/ZrException.h"
 #include "ZrXmlLib16/ZrInvalidStateException.h"
 #include "core/TextArgument.h"
+#include "xml/InstanceAttributeNames.h"
 #include "xml/XmlMessages.h"
 #include "xml/XmlNamespaces.h"
 
@@ -17,19 +18,6 @@ namespace {
 constexpr unsigned long FLUSH_THRESHOLD = 4095;
 constexpr wchar_t CDATA_START[] = L"<![CDATA[";
 constexpr std::size_t CDATA_START_LENGTH = 9;
-
-struct InstanceAttributeNames {
-    const std::wstring namespaceUri{SCHEMA_INSTANCE_NAMESPACE_URI};
-    const std::wstring type{L"type"};
-    const std::wstring nil{L"nil"};
-    const std::wstring trueValue{L"true"};
-};
-
-const InstanceAttributeNames& GetInstanceAttributeNames()
-{
-    static const InstanceAttributeNames names;
-    return names;
-}
 
 template <std::size_t N> void AppendLiteral(CTextStream& stream, const wchar_t (&text)[N])
 {
