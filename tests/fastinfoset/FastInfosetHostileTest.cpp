@@ -4,6 +4,7 @@
 #include "support/TestText.h"
 
 #include <algorithm>
+#include <vector>
 
 using namespace ZrXmlLib16;
 using TestSupport::BigEndian;
@@ -45,9 +46,9 @@ std::string RichDocument()
     return Octets("E0 00 00 01 77 00 00'i' 00'd' 10 80 02'urn' 00 00'n' C1 00'n' 00'p' F0 02'fin' 01 02'1.0'"
                   "E2 00'c' C7 00's' 00'p' E1 00't' 00'd' F0 E1 80 80"
                   "78 CD 02'urn' CF 00'p' 02'uri' F0 3D 81 00'a' 78 00'x' 41'v1' 7B 81 82 00'y' 80 F0"
-                  "90'x' 83 00 00 00 02'") + std::string(261, 'y') + Octets("C8 00'e' E2 00'c'"
-                  "40 00 7F 01 61 13 20 20 A0 1F 78 00'z' 70 23 FF FE 00 07 F0 A0 8C 14 38 86 01 00'x' 20 AC F0"
-                  "3F 81 82 00'b' 00 02 FF 88 04 12 FF FF 80'z' F0 F0");
+                  "90'x' 83 00 00 00 02") + std::string(261, 'y') + Octets("C8 00'e' E2 00'c'"
+                  "40 00 60 14 20 20 A0 1A 31 78 00'z' 70 23 FF FE 00 07 F0 A0 8C 14 38 86 01 00'x' 20 AC F0"
+                  "3F 81 82 00'b' 00 01 FF 88 04 12 F0 80'z' F0 F0");
 }
 
 } // namespace
@@ -235,17 +236,21 @@ TEST(FastInfosetHostile, IndexedTextIsLimited)
 
 TEST(FastInfosetHostile, TablesStopGrowing)
 {
-    // Every name has a text of its own; the one behind the last entry is used, but not entered.
-    static std::wstring lastName;
+    // As many names as the tables hold, and one more, which is used but not entered. Then the last entry once more.
+    static std::vector<std::wstring> lastNames;
+    lastNames.assign(3, std::wstring());
     CXmlDocument document([](CXmlElement* element) {
-        lastName = element->GetParent() ? element->GetLocalName() : lastName;
+        std::rotate(lastNames.begin(), lastNames.begin() + 1, lastNames.end());
+        lastNames.back() = element->GetLocalName();
         return true;
     });
-    std::string octets = FastInfoset("3C 00'a'");
+    std::string octets = FastInfoset("3C 02'aaa'");
     for (unsigned long i = 2; i <= 1048577; ++i)
-        octets += Octets("3C 02") + BigEndian(0x212121 + (i / 4096 << 16 | i / 64 % 64 << 8 | i % 64), 3) + '\xF0';
-    TestSupport::LoadOctets(document, octets + '\xF0');
-    EXPECT_EQ(3u, lastName.size());
-    EXPECT_EQ(INTEGER_ON_BIT_3, FailureOf(octets + Octets("30 08 00 00 F0 F0"))); // 1048577
-    EXPECT_EQ(INTEGER_ON_BIT_2, FailureOf(octets + Octets("3C EF DF C0 F0 F0")));
+        octets += std::string("\x3C\x02") + BigEndian(0x212121 + (i / 4096 << 16 | i / 64 % 64 << 8 | i % 64), 3) + '\xF0';
+    octets += Octets("30 07 F7 DF F0");
+    const std::wstring message =
+        TestSupport::MessageOf<CZrException>([&] { TestSupport::LoadOctets(document, octets + Octets("30 07 F7 E0")); });
+    EXPECT_EQ(INTEGER_ON_BIT_3, message);
+    EXPECT_NE(lastNames[0], lastNames[1]);
+    EXPECT_EQ(lastNames[0], lastNames[2]);
 }

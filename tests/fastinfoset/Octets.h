@@ -7,6 +7,7 @@
 #include "ZrXmlLib16/ZrException.h"
 #include "xml/TreeText.h"
 
+#include <stdexcept>
 #include <string>
 
 namespace TestSupport {
@@ -18,6 +19,8 @@ inline std::string Octets(const std::string& source)
     for (std::size_t i = 0; i < source.size(); ++i) {
         if (source[i] == '\'') {
             const std::size_t end = source.find('\'', i + 1);
+            if (end == std::string::npos)
+                throw std::invalid_argument(source);
             octets += source.substr(i + 1, end - i - 1);
             i = end;
         } else if (source[i] != ' ') {
