@@ -13,6 +13,7 @@
 #include "xml/DocumentStorage.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace ZrXmlLib16 {
 
@@ -68,6 +69,14 @@ template <class T> const T& RequireEntry(const T* found, const wchar_t* message)
         ThrowFastInfosetFailure(message);
     }
     return *found;
+}
+
+/// Whether the text is known to have nothing to tidy away.
+bool IsTidy(const EncodedString& string)
+{
+    const OctetString content = string.content;
+    return string.encoding == EncodedString::Utf8 && !std::memchr(content.octets, CARRIAGE_RETURN, content.length)
+        && !std::memchr(content.octets, 0, content.length);
 }
 
 /// Applies the rule of all element text, CXmlDocument::AppendTextExcludingCR, to what was appended.
@@ -310,7 +319,9 @@ void CFastInfosetReader::Decoder::ReadChunk(unsigned char first)
     if (first & ADD_ON_BIT_4) {
         m_vocabulary.GetCharacterChunks().Add(element.m_text.substr(before));
     }
-    TidyChunk(element.m_text, before);
+    if (!IsTidy(literal)) {
+        TidyChunk(element.m_text, before);
+    }
 }
 
 void CFastInfosetReader::Decoder::ReadIndexedChunk(CXmlElement& element, std::uint64_t index)

@@ -176,7 +176,8 @@ TEST(CodecReader, DecodesEveryLength)
     for (const unsigned long length : lengths) {
         const std::string content(length, 'x');
         const std::string octets = FastInfoset("7C") + LengthOnBit2(length, 0) + content + Octets("78 00'x'")
-            + LengthOnBit5(length, 0) + content + Octets("F0") + LengthOnBit7(length, 0x80) + content + Octets("80'.' FF");
+            + LengthOnBit5(length, 0) + content + Octets("F0") + LengthOnBit7(length, 0x80) + content
+            + Octets("80'.' FF");
         const std::wstring text(length, L'x');
         EXPECT_TRUE(text + L" @x=" + text + L" '" + text + L".'" == TreeOf(octets)) << length;
     }
@@ -189,8 +190,9 @@ TEST(CodecReader, DecodesTableNumbersAcrossOctets)
         const std::string chunk = Code((number - 1) << 2, 2, 0x88) + "\x11";
         const std::string value = Code((number - 1) << 4, 2, 0x20) + "\x11";
         const wchar_t* const text = number == 1 || number == 2 ? L"11" : L"";
-        const wchar_t* const failure = *text ? L"" : L"Failed to parse FastInfoset. Invalid Encoding of Restricted Alphabet. "
-                                                     L"Alphabet must contain between 2 and 2^20 characters.";
+        const wchar_t* const failure = *text ? L""
+                                             : L"Failed to parse FastInfoset. Invalid Encoding of Restricted Alphabet. "
+                                               L"Alphabet must contain between 2 and 2^20 characters.";
         const std::string asChunk = FastInfoset("3C 00'a'") + chunk + '\xFF';
         const std::string asValue = FastInfoset("7C 00'a' 78 00'x'") + value + '\xFF';
         EXPECT_EQ(failure, TestSupport::FailureOf(asChunk)) << number;

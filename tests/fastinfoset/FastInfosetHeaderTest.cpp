@@ -61,7 +61,8 @@ TEST(FastInfosetHeader, OptionalComponentsArePassedOver)
     } const rows[] = {
         {"00", "none"},
         {"40 00 00'i' 02'abc'", "one additional datum"},
-        {"40 01 00'i' 00'd' 01'jj' 40 00'0123456789abcdef0123456789abcdef0123456789abcdef0123456789abcdefD'", "two, one of 65 octets"},
+        {"40 01 00'i' 00'd' 01'jj' 40 00'0123456789abcdef0123456789abcdef0123456789abcdef0123456789abcdefD'",
+            "two, one of 65 octets"},
         {"20 00 00", "an empty vocabulary"},
         {"20 10 00 02'urn'", "an external vocabulary"},
         {"20 08 00 01 01'ab' 02'cde'", "restricted alphabets"},
@@ -76,7 +77,8 @@ TEST(FastInfosetHeader, OptionalComponentsArePassedOver)
         {"20 00 02 03 00 00 01 81 82 03 80 40 05 00 00 00", "element names"},
         {"20 00 01 00 00 60 01 02", "an attribute name"},
         {"20 1F FF 00'e' 00 00'a' 00 00'b' 00 00'c' 00 00'd' 00 00'e' 00 00'f' 00 00'g' 00 00'h' 00 00'i' 00 00'j'"
-         "00 00 00 00 00 00", "all tables"},
+         "00 00 00 00 00 00",
+            "all tables"},
         {"10 C0 00'n' C2 00'n' 00's' C1 80 80 C3 00'n' 00's' 00'p' F0", "notations"},
         {"08 D0 00'n' 00's' 00't' D1 80 00's' 00'p' 80 F0", "unparsed entities"},
         {"04 04'UTF-8'", "a character encoding scheme"},
@@ -107,8 +109,9 @@ TEST(FastInfosetHeader, LongSequencesArePassedOver)
 
 TEST(FastInfosetHeader, TransmittedTablesHaveNoEffect)
 {
-    EXPECT_EQ(L"a @x=1 'bb' (a @x=1)", TreeOf(SIGNATURE + Octets("20 00 9A 00 00'l' 00 00'v' 00 00'c' 00 00 00")
-                                           + Octets("7C 00'a' 78 00'x' 40'1' F0 90'b' A0 40 00 80 FF F0")));
+    EXPECT_EQ(L"a @x=1 'bb' (a @x=1)",
+        TreeOf(SIGNATURE + Octets("20 00 9A 00 00'l' 00 00'v' 00 00'c' 00 00 00")
+            + Octets("7C 00'a' 78 00'x' 40'1' F0 90'b' A0 40 00 80 FF F0")));
 }
 
 TEST(FastInfosetHeader, BrokenComponentsAreRefused)
@@ -122,11 +125,14 @@ TEST(FastInfosetHeader, BrokenComponentsAreRefused)
         {"08 C0", INVALID_ELEMENT},
         {"08 FF", INVALID_ELEMENT},
         {"04 7E", L"Failed to parse FastInfoset. Invalid NonEmptyOctetString type  on the second bit of an octet."},
-        {"20 00 04 00 0A", L"Failed to parse FastInfoset. Invalid NonEmptyOctetString type  on the fifth bit of an octet."},
+        {"20 00 04 00 0A",
+            L"Failed to parse FastInfoset. Invalid NonEmptyOctetString type  on the fifth bit of an octet."},
         {"20 00 02 00 00 7C",
-            L"Failed to parse FastInfoset. Invalid Encoding of integers 1 To 2^20 type  on the second bit of an octet."},
+            L"Failed to parse FastInfoset. Invalid Encoding of integers 1 To 2^20 type  on the second bit of an "
+            L"octet."},
         {"01 FE",
-            L"Failed to parse FastInfoset. Invalid Encoding of integers 0 To 2^20 type  on the second bit of an octet."},
+            L"Failed to parse FastInfoset. Invalid Encoding of integers 0 To 2^20 type  on the second bit of an "
+            L"octet."},
         {"20 00 80 8F FF FF 00'n'", UNEXPECTED_END}, // a million names announced
         {"04 60 FF FF FF FF", UNEXPECTED_END},
     };

@@ -46,9 +46,11 @@ std::string RichDocument()
     return Octets("E0 00 00 01 77 00 00'i' 00'd' 10 80 02'urn' 00 00'n' C1 00'n' 00'p' F0 02'fin' 01 02'1.0'"
                   "E2 00'c' C7 00's' 00'p' E1 00't' 00'd' F0 E1 80 80"
                   "78 CD 02'urn' CF 00'p' 02'uri' F0 3D 81 00'a' 78 00'x' 41'v1' 7B 81 82 00'y' 80 F0"
-                  "90'x' 83 00 00 00 02") + std::string(261, 'y') + Octets("C8 00'e' E2 00'c'"
-                  "40 00 60 14 20 20 A0 1A 31 78 00'z' 70 23 FF FE 00 07 F0 A0 8C 14 38 86 01 00'x' 20 AC F0"
-                  "3F 81 82 00'b' 00 01 FF 88 04 12 F0 80'z' F0 F0");
+                  "90'x' 83 00 00 00 02")
+        + std::string(261, 'y')
+        + Octets("C8 00'e' E2 00'c'"
+                 "40 00 60 14 20 20 A0 1A 31 78 00'z' 70 23 FF FE 00 07 F0 A0 8C 14 38 86 01 00'x' 20 AC F0"
+                 "3F 81 82 00'b' 00 01 FF 88 04 12 F0 80'z' F0 F0");
 }
 
 } // namespace
@@ -246,10 +248,11 @@ TEST(FastInfosetHostile, TablesStopGrowing)
     });
     std::string octets = FastInfoset("3C 02'aaa'");
     for (unsigned long i = 2; i <= 1048577; ++i)
-        octets += std::string("\x3C\x02") + BigEndian(0x212121 + (i / 4096 << 16 | i / 64 % 64 << 8 | i % 64), 3) + '\xF0';
+        octets +=
+            std::string("\x3C\x02") + BigEndian(0x212121 + (i / 4096 << 16 | i / 64 % 64 << 8 | i % 64), 3) + '\xF0';
     octets += Octets("30 07 F7 DF F0");
-    const std::wstring message =
-        TestSupport::MessageOf<CZrException>([&] { TestSupport::LoadOctets(document, octets + Octets("30 07 F7 E0")); });
+    const std::wstring message = TestSupport::MessageOf<CZrException>(
+        [&] { TestSupport::LoadOctets(document, octets + Octets("30 07 F7 E0")); });
     EXPECT_EQ(INTEGER_ON_BIT_3, message);
     EXPECT_NE(lastNames[0], lastNames[1]);
     EXPECT_EQ(lastNames[0], lastNames[2]);

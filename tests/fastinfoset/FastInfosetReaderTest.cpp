@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "ZrXmlLib16/FastInfosetContext.h"
 #include "ZrXmlLib16/FastInfosetReader.h"
+#include "ZrXmlLib16/FastInfosetContext.h"
 #include "ZrXmlLib16/ZrZip.h"
 #include "fastinfoset/Octets.h"
 #include "support/TestText.h"
@@ -74,8 +74,9 @@ TEST(FastInfosetReader, ReadsAttributes)
 TEST(FastInfosetReader, RecordsPrefixesOfDeclarationsAndLiteralNames)
 {
     // xmlns="u" xmlns:p="v" xmlns:q="u"; the name with the attribute r:x; xmlns="" on b; s:c of another namespace
-    const std::string octets = FastInfoset("78 CD 00'u' CF 00'p' 00'v' CF 00'q' 81 F0 3D 82 00'a' 7B 00'r' 81 00'x' 00'1' F0"
-                                           "38 CC F0 3C 00'b' F0 3F 00's' 00'w' 00'c' FF");
+    const std::string octets =
+        FastInfoset("78 CD 00'u' CF 00'p' 00'v' CF 00'q' 81 F0 3D 82 00'a' 7B 00'r' 81 00'x' 00'1' F0"
+                    "38 CC F0 3C 00'b' F0 3F 00's' 00'w' 00'c' FF");
     CXmlDocument document;
     TestSupport::LoadOctets(document, octets);
     EXPECT_EQ(L"{v}a @{u}x=1 (b, {w}c)", TestSupport::TreeText(document.GetDocumentElement()));
@@ -199,7 +200,8 @@ TEST(FastInfosetReader, RefusesBrokenEntriesOfAGeneratedVocabulary)
     vocabulary.AddQNameToVector(0, 9, 1, vocabulary.GetElementNamesTable());
     settings.SetUseGeneratedVocabulary(true);
     for (const char* const root : {"00 FF", "01 FF", "02 FF"}) {
-        EXPECT_EQ(L"Failed to parse FastInfoset. Invalid Encoding of integers 1 To 2^20 type  on the third bit of an octet.",
+        EXPECT_EQ(
+            L"Failed to parse FastInfoset. Invalid Encoding of integers 1 To 2^20 type  on the third bit of an octet.",
             FailureOf(FastInfoset(root), context))
             << root;
     }
