@@ -13,6 +13,7 @@
 #include "ZrXmlLib16/ZrZip.h"
 #include "core/CoreMessages.h"
 #include "core/VersionCheck.h"
+#include "streams/Utf8TextStream.h"
 
 namespace ZrXmlLib16 {
 
@@ -66,13 +67,24 @@ std::wstring CXmlObjectBase::ToXml(
     return std::wstring(stream.GetText(), stream.GetLength());
 }
 
+CBinaryData CXmlObjectBase::WriteOctets(
+    XmlEncoding encoding, bool includeHeader, bool formatted, EOLType eol, const CSerializationContext& context) const
+{
+    if (encoding == Encoding_UTF8) {
+        CUtf8TextStream stream;
+        WriteDocument(stream, includeHeader, formatted, eol, context);
+        return stream.TakeOctets();
+    }
+    CTextStream stream(encoding);
+    WriteDocument(stream, includeHeader, formatted, eol, context);
+    return stream.GetEncodedStream();
+}
+
 CBinaryData CXmlObjectBase::ToXmlStream(bool includeHeader, bool formatted, XmlEncoding encoding, EOLType eol,
     const CSerializationContext& context, CompressionType compression) const
 {
     CheckVersion();
-    CTextStream stream(encoding);
-    WriteDocument(stream, includeHeader, formatted, eol, context);
-    CBinaryData bytes = stream.GetEncodedStream();
+    CBinaryData bytes = WriteOctets(encoding, includeHeader, formatted, eol, context);
     if (compression != Compression_None) {
         CZrZip::CompressData(bytes, compression);
     }

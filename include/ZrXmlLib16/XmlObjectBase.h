@@ -148,6 +148,8 @@ protected:
 private:
     void WriteDocument(CTextStream& stream, bool includeHeader, bool formatted, EOLType eol,
         const CSerializationContext& context) const;
+    CBinaryData WriteOctets(XmlEncoding encoding, bool includeHeader, bool formatted, EOLType eol,
+        const CSerializationContext& context) const;
     void ReadElement(const CXmlElement* element, const CSerializationContext& context);
 
     std::wstring m_elementName;
