@@ -35,6 +35,8 @@ constexpr wchar_t PROPERTY_IS_NULL[] = L"The Property [%ls] is mandatory, it may
 constexpr wchar_t ELEMENT_NAME_DIFFERS[] =
     L"This property requires an element with the name %ls the element being set has the element name %ls";
 constexpr wchar_t ZLIB_ONLY_FOR_STREAMS[] = L"ZLIB Compression only available for To Stream methods.";
+/// converted text
+constexpr wchar_t JSON_CONVERSION_FAILED[] = L"Error converting JSON to XML:\n%ls";
 constexpr wchar_t NO_ROOT_ELEMENT[] = L"The document has no root element.";
 
 constexpr wchar_t UNKNOWN_GROUP_TYPE_ON_WRITE[] = L"Unknown XML Group Type";

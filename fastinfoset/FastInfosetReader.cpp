@@ -5,6 +5,7 @@
 #include "ZrXmlLib16/XmlDocument.h"
 #include "ZrXmlLib16/XmlElement.h"
 #include "ZrXmlLib16/ZrException.h"
+#include "core/FormatSettings.h"
 #include "fastinfoset/EncodedString.h"
 #include "fastinfoset/FastInfosetHeader.h"
 #include "fastinfoset/OctetReader.h"
@@ -12,16 +13,11 @@
 #include "fastinfoset/SkippedItems.h"
 #include "xml/DocumentStorage.h"
 
-#include <algorithm>
-#include <cstring>
+#include <utility>
 
 namespace ZrXmlLib16 {
 
 namespace {
-
-constexpr wchar_t CARRIAGE_RETURN = 13;
-/// What the smallest block of memory has room for.
-constexpr std::size_t FIRST_ATTRIBUTES = 3;
 
 constexpr unsigned char NOT_AN_ELEMENT = 0x80;
 constexpr unsigned char NOT_A_CHUNK = 0xC0;
@@ -71,28 +67,6 @@ template <class T> const T& RequireEntry(const T* found, const wchar_t* message)
     return *found;
 }
 
-/// Whether the text is known to have nothing to tidy away.
-bool IsTidy(const EncodedString& string)
-{
-    const OctetString content = string.content;
-    return string.encoding == EncodedString::Utf8 && !std::memchr(content.octets, CARRIAGE_RETURN, content.length)
-        && !std::memchr(content.octets, 0, content.length);
-}
-
-/// Applies the rule of all element text, CXmlDocument::AppendTextExcludingCR, to what was appended.
-void TidyChunk(std::wstring& text, std::size_t before)
-{
-    bool isTidy = true;
-    for (std::size_t i = before; i < text.size(); ++i) {
-        const bool isKept = text[i] != CARRIAGE_RETURN && text[i] != L'\0';
-        isTidy &= isKept;
-    }
-    if (!isTidy) {
-        const auto begin = text.begin() + static_cast<std::ptrdiff_t>(before);
-        text.erase(std::remove(begin, std::find(begin, text.end(), L'\0'), CARRIAGE_RETURN), text.end());
-    }
-}
-
 } // namespace
 
 /// Decodes one document. The open elements are those of the document that is built: nothing here recurses.
@@ -130,6 +104,7 @@ private:
     const unsigned long m_inputLength;
     ReaderVocabulary m_vocabulary;
     std::uint64_t m_indexedText = 0; // characters that came into the document through an index
+    std::wstring m_text;             // the value that is being decoded
 };
 
 CFastInfosetReader::CFastInfosetReader(const CFastInfosetContext& context, CXmlDocument& document)
@@ -271,7 +246,6 @@ void CFastInfosetReader::Decoder::ReadNamespaceAttributes()
 
 void CFastInfosetReader::Decoder::ReadAttributes(CXmlElement& element)
 {
-    element.m_attributes.reserve(FIRST_ATTRIBUTES);
     unsigned char octet = m_input.Fetch();
     for (; octet < NOT_AN_ATTRIBUTE; octet = m_input.Fetch()) {
         ReadAttributeValue(element, ReadAttributeName(octet));
@@ -289,20 +263,21 @@ void CFastInfosetReader::Decoder::ReadAttributeValue(CXmlElement& element, const
     if (first & INDEX_ON_BIT_1) {
         const std::uint64_t index = m_input.ReadIntegerOrZeroOnBit2(first);
         if (index == 0) {
-            element.AddParsedAttribute(name);
+            element.AddNamedAttribute(name, std::wstring());
             return;
         }
         const std::wstring& value = RequireEntry(
             m_vocabulary.GetAttributeValues().Find(index), FastInfosetReaderMessages::INVALID_INTEGER_OR_ZERO_ON_BIT_2);
         CountIndexedText(value);
-        element.AddParsedAttribute(name) = value;
+        element.AddNamedAttribute(name, value);
         return;
     }
     const EncodedString literal = ReadEncodedStringOnBit3(m_input, first);
-    std::wstring& value = element.AddParsedAttribute(name);
-    AppendEncodedString(value, literal, m_vocabulary.GetAlphabets());
+    m_text.clear();
+    AppendEncodedString(m_text, literal, m_vocabulary.GetAlphabets());
+    element.AddNamedAttribute(name, m_text);
     if (first & ADD_ON_BIT_2) {
-        m_vocabulary.GetAttributeValues().Add(value);
+        m_vocabulary.GetAttributeValues().Add(m_text);
     }
 }
 
@@ -314,14 +289,12 @@ void CFastInfosetReader::Decoder::ReadChunk(unsigned char first)
         return;
     }
     const EncodedString literal = ReadEncodedStringOnBit5(m_input, first);
-    const std::size_t before = element.m_text.size();
-    AppendEncodedString(element.m_text, literal, m_vocabulary.GetAlphabets());
+    m_text.clear();
+    AppendEncodedString(m_text, literal, m_vocabulary.GetAlphabets());
     if (first & ADD_ON_BIT_4) {
-        m_vocabulary.GetCharacterChunks().Add(element.m_text.substr(before));
+        m_vocabulary.GetCharacterChunks().Add(m_text);
     }
-    if (!IsTidy(literal)) {
-        TidyChunk(element.m_text, before);
-    }
+    m_document.AppendTextExcludingCR(&element, m_text);
 }
 
 void CFastInfosetReader::Decoder::ReadIndexedChunk(CXmlElement& element, std::uint64_t index)
@@ -329,9 +302,7 @@ void CFastInfosetReader::Decoder::ReadIndexedChunk(CXmlElement& element, std::ui
     const std::wstring& text = RequireEntry(
         m_vocabulary.GetCharacterChunks().Find(index), FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_4);
     CountIndexedText(text);
-    const std::size_t before = element.m_text.size();
-    element.AppendText(text);
-    TidyChunk(element.m_text, before);
+    m_document.AppendTextExcludingCR(&element, text);
 }
 
 const XmlName& CFastInfosetReader::Decoder::ReadElementName(unsigned char first)
@@ -399,9 +370,7 @@ void CFastInfosetReader::Decoder::CountIndexedText(const std::wstring& text)
 /// In characters.
 std::uint64_t CFastInfosetReader::Decoder::GetIndexedTextLimit() const
 {
-    constexpr std::uint64_t ALWAYS_ALLOWED = 64 * 1024 * 1024;
-    constexpr std::uint64_t FACTOR = 100;
-    return std::max(ALWAYS_ALLOWED, FACTOR * m_inputLength);
+    return CFormatSettings::MaximumExpansion(m_document.GetSerializationContext(), m_inputLength);
 }
 
 } // namespace ZrXmlLib16
