@@ -11,9 +11,13 @@
 #include "fastinfoset/OctetReader.h"
 #include "fastinfoset/ReaderVocabulary.h"
 #include "fastinfoset/SkippedItems.h"
+#include "streams/Utf8Decoding.h"
 #include "xml/DocumentStorage.h"
+#include "xml/NodeAccess.h"
 
+#include <cstring>
 #include <utility>
+#include <vector>
 
 namespace ZrXmlLib16 {
 
@@ -67,6 +71,20 @@ template <class T> const T& RequireEntry(const T* found, const wchar_t* message)
     return *found;
 }
 
+/// Element text ends at the first NUL, see CXmlDocument::AppendTextExcludingCR.
+OctetString UpToNul(OctetString content)
+{
+    const void* const nul = std::memchr(content.octets, 0, content.length);
+    return nul ? OctetString{content.octets,
+               static_cast<unsigned long>(static_cast<const unsigned char*>(nul) - content.octets)}
+               : content;
+}
+
+std::wstring Widen(const std::vector<Utf16Unit>& units, std::size_t count)
+{
+    return std::wstring(units.data(), units.data() + count);
+}
+
 } // namespace
 
 /// Decodes one document. The open elements are those of the document that is built: nothing here recurses.
@@ -86,6 +104,7 @@ private:
     void ReadAttributeValue(CXmlElement& element, const XmlName& name);
     void ReadChunk(unsigned char first);
     void ReadIndexedChunk(CXmlElement& element, std::uint64_t index);
+    std::size_t DecodeUnits(OctetString content);
 
     const XmlName& ReadElementName(unsigned char first);
     const XmlName& ReadAttributeName(unsigned char first);
@@ -104,7 +123,8 @@ private:
     const unsigned long m_inputLength;
     ReaderVocabulary m_vocabulary;
     std::uint64_t m_indexedText = 0; // characters that came into the document through an index
-    std::wstring m_text;             // the value that is being decoded
+    std::vector<Utf16Unit> m_units;  // the literal that is being decoded
+    std::wstring m_text;             // the same for encodings other than UTF-8
 };
 
 CFastInfosetReader::CFastInfosetReader(const CFastInfosetContext& context, CXmlDocument& document)
@@ -273,10 +293,19 @@ void CFastInfosetReader::Decoder::ReadAttributeValue(CXmlElement& element, const
         return;
     }
     const EncodedString literal = ReadEncodedStringOnBit3(m_input, first);
+    const bool isAdded = first & ADD_ON_BIT_2;
+    if (literal.encoding == EncodedString::Utf8) {
+        const std::size_t count = DecodeUnits(literal.content);
+        element.AddParsedAttribute(name, m_units.data(), count);
+        if (isAdded) {
+            m_vocabulary.GetAttributeValues().Add(Widen(m_units, count));
+        }
+        return;
+    }
     m_text.clear();
     AppendEncodedString(m_text, literal, m_vocabulary.GetAlphabets());
     element.AddNamedAttribute(name, m_text);
-    if (first & ADD_ON_BIT_2) {
+    if (isAdded) {
         m_vocabulary.GetAttributeValues().Add(m_text);
     }
 }
@@ -289,9 +318,18 @@ void CFastInfosetReader::Decoder::ReadChunk(unsigned char first)
         return;
     }
     const EncodedString literal = ReadEncodedStringOnBit5(m_input, first);
+    const bool isAdded = first & ADD_ON_BIT_4;
+    if (literal.encoding == EncodedString::Utf8) {
+        const std::size_t count = DecodeUnits(UpToNul(literal.content));
+        NodeAccess::AppendUnits(element, m_units.data(), count);
+        if (isAdded) {
+            m_vocabulary.GetCharacterChunks().Add(Widen(m_units, count));
+        }
+        return;
+    }
     m_text.clear();
     AppendEncodedString(m_text, literal, m_vocabulary.GetAlphabets());
-    if (first & ADD_ON_BIT_4) {
+    if (isAdded) {
         m_vocabulary.GetCharacterChunks().Add(m_text);
     }
     m_document.AppendTextExcludingCR(&element, m_text);
@@ -303,6 +341,15 @@ void CFastInfosetReader::Decoder::ReadIndexedChunk(CXmlElement& element, std::ui
         m_vocabulary.GetCharacterChunks().Find(index), FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_4);
     CountIndexedText(text);
     m_document.AppendTextExcludingCR(&element, text);
+}
+
+/// Decodes UTF-8 into m_units. @return the number of units.
+std::size_t CFastInfosetReader::Decoder::DecodeUnits(OctetString content)
+{
+    if (m_units.size() < content.length) {
+        m_units.resize(content.length);
+    }
+    return static_cast<std::size_t>(DecodeUtf8(content.octets, content.length, m_units.data()) - m_units.data());
 }
 
 const XmlName& CFastInfosetReader::Decoder::ReadElementName(unsigned char first)

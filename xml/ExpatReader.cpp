@@ -139,7 +139,8 @@ void CExpatReader::StartElement(const Utf16Unit* name, const Utf16Unit** attribu
     CXmlElement* const element = m_document.GetDocumentElement() ? m_document.OpenChildElement(elementName)
                                                                  : m_document.OpenDocElement(elementName);
     for (; *attributes; attributes += 2) {
-        element->AddParsedAttribute(names.Intern(attributes[0]), attributes[1]);
+        const Utf16Unit* const value = attributes[1];
+        element->AddParsedAttribute(names.Intern(attributes[0]), value, Utf16Length(value));
     }
 }
 

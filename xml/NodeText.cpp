@@ -74,9 +74,8 @@ void NodeText::AppendCompact(DocumentStorage* storage, const wchar_t* text, std:
     m_length += static_cast<std::uint32_t>(length);
 }
 
-void NodeText::AssignParsed(DocumentStorage& storage, const unsigned short* units)
+void NodeText::AssignParsed(DocumentStorage& storage, const unsigned short* units, std::size_t length)
 {
-    const std::size_t length = Utf16Length(units);
     if (length == 0) {
         return;
     }

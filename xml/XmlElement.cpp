@@ -137,10 +137,10 @@ void CXmlElement::AddNamedAttribute(const XmlName& name, const std::wstring& val
     AppendAttribute(std::move(attribute));
 }
 
-void CXmlElement::AddParsedAttribute(const XmlName& name, const Utf16Unit* value)
+void CXmlElement::AddParsedAttribute(const XmlName& name, const Utf16Unit* value, std::size_t length)
 {
     std::unique_ptr<CXmlAttribute> attribute(new (name.storage->GetAttributePool()) CXmlAttribute(this, name));
-    attribute->m_value.AssignParsed(*name.storage, value);
+    attribute->m_value.AssignParsed(*name.storage, value, length);
     AppendAttribute(std::move(attribute));
 }
 

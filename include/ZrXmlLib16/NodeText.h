@@ -46,8 +46,8 @@ public:
     void AppendWide(DocumentStorage* storage, const wchar_t* text, std::size_t length);
     /// Appends text as it is, in units where it consists of units.
     void AppendCompact(DocumentStorage* storage, const wchar_t* text, std::size_t length);
-    /// Takes the value of an attribute as the parser delivers it: NUL-terminated. The text is empty before.
-    void AssignParsed(DocumentStorage& storage, const unsigned short* units);
+    /// Takes the units of the value of an attribute as they are. The text is empty before.
+    void AssignParsed(DocumentStorage& storage, const unsigned short* units, std::size_t length);
     bool ListsAttributes() const noexcept { return IsWide() && m_forms->listsAttributes; }
     /// The wide form, made at the first call; it is then updated in place.
     NodeForms& GetForms(DocumentStorage* storage);
