@@ -20,6 +20,7 @@
 #include "ZrXmlLib16/Element.h"
 #include "ZrXmlLib16/ElementCol.h"
 #include "ZrXmlLib16/Encoder.h"
+#include "ZrXmlLib16/ErrorReport.h"
 #include "ZrXmlLib16/Export.h"
 #include "ZrXmlLib16/FIVocabulary.h"
 #include "ZrXmlLib16/FInfoDecl.h"
