@@ -7,6 +7,7 @@ set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/ZrXmlLib16")
 install(TARGETS ZrXmlLib16 EXPORT ZrXmlLib16Targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/ZrXmlLib16" "${PROJECT_SOURCE_DIR}/include/ZrXmlLib16Data"
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+install(FILES "${PROJECT_SOURCE_DIR}/tools/gdb/zrxmllib16.py" DESTINATION ${CMAKE_INSTALL_DATADIR}/ZrXmlLib16/gdb)
 install(EXPORT ZrXmlLib16Targets NAMESPACE ZrXmlLib16:: DESTINATION ${package_dir})
 
 configure_package_config_file("${CMAKE_CURRENT_LIST_DIR}/ZrXmlLib16Config.cmake.in"
