@@ -116,13 +116,12 @@ private:
     const std::wstring& ReadIdentifyingString(TextTable& table);
 
     void CountIndexedText(const std::wstring& text);
-    std::uint64_t GetIndexedTextLimit() const;
 
     CXmlDocument& m_document;
     OctetReader m_input;
-    const unsigned long m_inputLength;
     ReaderVocabulary m_vocabulary;
-    std::uint64_t m_indexedText = 0; // characters that came into the document through an index
+    const unsigned long m_indexedTextLimit;
+    unsigned long m_indexedText = 0; // characters that came into the document through an index
     std::vector<Utf16Unit> m_units;  // the literal that is being decoded
     std::wstring m_text;             // the same for encodings other than UTF-8
 };
@@ -169,8 +168,8 @@ bool CFastInfosetReader::Parse()
 CFastInfosetReader::Decoder::Decoder(const CFastInfosetContext& context, CXmlDocument& document, OctetString input)
     : m_document(document)
     , m_input(input.octets, input.length)
-    , m_inputLength(input.length)
     , m_vocabulary(context, document.GetStorage().GetNames())
+    , m_indexedTextLimit(CFormatSettings::MaximumExpansion(document.GetSerializationContext(), input.length))
 {
 }
 
@@ -408,16 +407,9 @@ const std::wstring& CFastInfosetReader::Decoder::ReadIdentifyingString(TextTable
 void CFastInfosetReader::Decoder::CountIndexedText(const std::wstring& text)
 {
     m_indexedText += text.size();
-    if (m_indexedText > GetIndexedTextLimit()) {
-        throw CZrException(FormatString(
-            FastInfosetReaderMessages::TOO_MUCH_INDEXED_TEXT, static_cast<unsigned long>(GetIndexedTextLimit())));
+    if (m_indexedText > m_indexedTextLimit) {
+        throw CZrException(FormatString(FastInfosetReaderMessages::TOO_MUCH_INDEXED_TEXT, m_indexedTextLimit));
     }
-}
-
-/// In characters.
-std::uint64_t CFastInfosetReader::Decoder::GetIndexedTextLimit() const
-{
-    return CFormatSettings::MaximumExpansion(m_document.GetSerializationContext(), m_inputLength);
 }
 
 } // namespace ZrXmlLib16

@@ -107,7 +107,7 @@ TEST(FastInfosetHeader, LongSequencesArePassedOver)
     }
 }
 
-TEST(FastInfosetHeader, TransmittedTablesHaveNoEffect)
+TEST(FastInfosetHeader, keeps_IgnoringATransmittedVocabulary)
 {
     EXPECT_EQ(L"a @x=1 'bb' (a @x=1)",
         TreeOf(SIGNATURE + Octets("20 00 9A 00 00'l' 00 00'v' 00 00'c' 00 00 00")

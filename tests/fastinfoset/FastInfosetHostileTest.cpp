@@ -55,7 +55,7 @@ std::string RichDocument()
 
 } // namespace
 
-TEST(FastInfosetHostile, EveryFailureHasItsMessage)
+TEST(FastInfosetHostile, keeps_TheMessageOfEveryFailure)
 {
     const Case rows[] = {
         // where an element or content is expected
