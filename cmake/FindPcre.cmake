@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # PCRE 1, the 8-bit library, as Pcre::Pcre.
 find_path(Pcre_INCLUDE_DIR pcre.h)
-find_library(Pcre_LIBRARY NAMES pcre pcred)
+find_library(Pcre_LIBRARY pcre)
 
 include(FindPackageHandleStandardArgs)
 find_package_handle_standard_args(Pcre REQUIRED_VARS Pcre_LIBRARY Pcre_INCLUDE_DIR)

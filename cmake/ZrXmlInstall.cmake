@@ -10,6 +10,8 @@ install(TARGETS ZrXmlLib16 EXPORT ZrXmlLib16Targets
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development)
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/ZrXmlLib16" "${PROJECT_SOURCE_DIR}/include/ZrXmlLib16Data"
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT Development FILES_MATCHING PATTERN "*.h")
+install(FILES "${PROJECT_SOURCE_DIR}/tools/gdb/zrxmllib16.py"
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/ZrXmlLib16/gdb COMPONENT Development)
 install(EXPORT ZrXmlLib16Targets NAMESPACE ZrXmlLib16:: DESTINATION ${package_dir} COMPONENT Development)
 
 configure_package_config_file("${CMAKE_CURRENT_LIST_DIR}/ZrXmlLib16Config.cmake.in"
@@ -27,8 +29,10 @@ set(ZRXML_PC_REQUIRES_PRIVATE "")
 set(ZRXML_PC_LIBS_PRIVATE "")
 set(ZRXML_PC_CFLAGS "")
 if(ZRXML_STATIC)
-  install(FILES "${CMAKE_CURRENT_LIST_DIR}/FindPcre.cmake" DESTINATION ${package_dir} COMPONENT Development)
-  set(ZRXML_PC_REQUIRES_PRIVATE "libpcre, zlib")
+  install(FILES "${CMAKE_CURRENT_LIST_DIR}/Find${ZRXML_PATTERN_PACKAGE}.cmake" DESTINATION ${package_dir} COMPONENT Development)
+  set(pattern_module_Pcre libpcre)
+  set(pattern_module_Pcre2 libpcre2-8)
+  set(ZRXML_PC_REQUIRES_PRIVATE "${pattern_module_${ZRXML_PATTERN_PACKAGE}}, zlib")
   set(ZRXML_PC_LIBS_PRIVATE "-pthread")
   set(ZRXML_PC_CFLAGS " -DZRXML_STATIC")
 endif()

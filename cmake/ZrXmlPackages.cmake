@@ -41,8 +41,8 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME ${base}-tools)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${base}-${binary_version} (= ${PROJECT_VERSION})")
-set(CPACK_COMPONENT_TOOLS_DESCRIPTION "converter for XML documents without their schema
-zrconvert reads a document and writes it again in another form.")
+set(CPACK_COMPONENT_TOOLS_DESCRIPTION "converter between XML, JSON and Fast Infoset
+zrconvert reads a document without its schema and writes it in another form.")
 
 set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_NAME ${base}-doc)
 set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_SECTION doc)

@@ -6,6 +6,9 @@
 namespace ZrXmlLib16 {
 namespace Message {
 
+/// between a message and its path
+constexpr wchar_t PATH_SUFFIX[] = L"\nPath: ";
+
 constexpr wchar_t VERSION_NOTICE_RULE[] = L"\n-----------------Version Mismatch-----------------\n";
 constexpr wchar_t VERSION_NOTICE_TITLE[] = L"Velloc XML 2018 - Version Mismatch Error\n";
 /// library major, minor, generator major, minor
@@ -35,6 +38,8 @@ constexpr wchar_t PROPERTY_IS_NULL[] = L"The Property [%ls] is mandatory, it may
 constexpr wchar_t ELEMENT_NAME_DIFFERS[] =
     L"This property requires an element with the name %ls the element being set has the element name %ls";
 constexpr wchar_t ZLIB_ONLY_FOR_STREAMS[] = L"ZLIB Compression only available for To Stream methods.";
+/// converted text
+constexpr wchar_t JSON_CONVERSION_FAILED[] = L"Error converting JSON to XML:\n%ls";
 constexpr wchar_t NO_ROOT_ELEMENT[] = L"The document has no root element.";
 
 constexpr wchar_t UNKNOWN_GROUP_TYPE_ON_WRITE[] = L"Unknown XML Group Type";

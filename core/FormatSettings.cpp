@@ -5,6 +5,8 @@
 #include "ZrXmlLib16/JsonContext.h"
 #include "ZrXmlLib16/SerializationContext.h"
 
+#include <algorithm>
+
 namespace ZrXmlLib16 {
 
 const CFastInfosetContext& CFormatSettings::FastInfoset(const CSerializationContext& context)
@@ -19,6 +21,12 @@ const CJsonContext& CFormatSettings::Json(const CSerializationContext& context)
     static const CJsonContext defaults;
     const CJsonContext* const settings = context.FindJsonContext();
     return settings ? *settings : defaults;
+}
+
+unsigned long CFormatSettings::MaximumExpansion(const CSerializationContext& context, unsigned long size)
+{
+    constexpr unsigned long FACTOR = 100;
+    return std::max(context.GetInputLimits().GetMaxExpandedCharacters(), FACTOR * size);
 }
 
 CFormatSettings::IgnoringNamespaces::IgnoringNamespaces(const CSerializationContext& context) noexcept

@@ -16,6 +16,9 @@ public:
     static const CFastInfosetContext& FastInfoset(const CSerializationContext& context);
     static const CJsonContext& Json(const CSerializationContext& context);
 
+    /// How many characters a document of that size, in octets or characters, may expand to by repetition.
+    static unsigned long MaximumExpansion(const CSerializationContext& context, unsigned long size);
+
     /// Makes a context ignore namespaces and restores its own setting in the end.
     class IgnoringNamespaces {
     public:

@@ -174,6 +174,16 @@ void CSerializationContext::SetMaxDepth(int levels)
     m_maxDepth = levels;
 }
 
+const CInputLimits& CSerializationContext::GetInputLimits() const
+{
+    return m_inputLimits;
+}
+
+void CSerializationContext::SetInputLimits(const CInputLimits& limits)
+{
+    m_inputLimits = limits;
+}
+
 bool CSerializationContext::GetWriteTypeAttribute() const
 {
     return m_writeTypeAttribute;

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The public entry points of CXmlObjectBase: each checks the version, builds a stream and a writer or a document, and
-// starts a walk.
+// The entry points of CXmlObjectBase for XML, and those that read any document: each checks the version, builds a
+// stream and a writer or a document, and starts a walk.
 #include "ZrXmlLib16/Element.h"
-#include "ZrXmlLib16/FileBinaryStream.h"
 #include "ZrXmlLib16/FileTextStream.h"
 #include "ZrXmlLib16/TextStream.h"
 #include "ZrXmlLib16/XmlDocument.h"
@@ -10,36 +9,11 @@
 #include "ZrXmlLib16/XmlObjectBase.h"
 #include "ZrXmlLib16/XmlTextWriter.h"
 #include "ZrXmlLib16/ZrException.h"
-#include "ZrXmlLib16/ZrZip.h"
 #include "core/CoreMessages.h"
+#include "core/EntryPointFiles.h"
 #include "core/VersionCheck.h"
 
 namespace ZrXmlLib16 {
-
-namespace {
-
-bool ASYNC_TOXMLFILE = false;
-
-// kept: required behaviour. The file forms refuse the zlib wrapper that the stream forms accept.
-void RefuseZLib(CompressionType compression)
-{
-    if (compression == Compression_ZLib) {
-        throw CZrException(Message::ZLIB_ONLY_FOR_STREAMS);
-    }
-}
-
-// A byte-order mark in front of compressed bytes would hide their own header from the reader.
-XmlEncoding MarkedEncoding(XmlEncoding encoding, CompressionType compression)
-{
-    return compression == Compression_None ? encoding : Encoding_UTF8;
-}
-
-} // namespace
-
-void AsyncToXmlFile(bool on)
-{
-    ASYNC_TOXMLFILE = on;
-}
 
 void CXmlObjectBase::WriteDocument(
     CTextStream& stream, bool includeHeader, bool formatted, EOLType eol, const CSerializationContext& context) const
@@ -70,27 +44,24 @@ CBinaryData CXmlObjectBase::ToXmlStream(bool includeHeader, bool formatted, XmlE
     const CSerializationContext& context, CompressionType compression) const
 {
     CheckVersion();
-    CTextStream stream(encoding);
-    WriteDocument(stream, includeHeader, formatted, eol, context);
-    CBinaryData bytes = stream.GetEncodedStream();
-    if (compression != Compression_None) {
-        CZrZip::CompressData(bytes, compression);
-    }
-    return bytes;
+    return EntryPointFiles::Compressed(
+        EntryPointFiles::WriteOctets(
+            encoding, [&](CTextStream& stream) { WriteDocument(stream, includeHeader, formatted, eol, context); }),
+        compression);
 }
 
 void CXmlObjectBase::ToXmlFile(const wchar_t* fileName, bool includeHeader, bool formatted, XmlEncoding encoding,
     EOLType eol, const CSerializationContext& context, CompressionType compression) const
 {
     CheckVersion();
-    RefuseZLib(compression);
-    if (ASYNC_TOXMLFILE && compression == Compression_None) {
+    EntryPointFiles::RefuseZLib(compression);
+    if (EntryPointFiles::IsWrittenDirectly(compression)) {
         CFileTextStream stream(fileName, encoding);
         WriteDocument(stream, includeHeader, formatted, eol, context);
         return;
     }
     CBinaryData bytes = ToXmlStream(includeHeader, formatted, encoding, eol, context, compression);
-    CFileBinaryStream(fileName, MarkedEncoding(encoding, compression), bytes).ToFile();
+    EntryPointFiles::WriteWhole(fileName, encoding, compression, bytes);
 }
 
 void CXmlObjectBase::ReadElement(const CXmlElement* element, const CSerializationContext& context)

@@ -12,6 +12,8 @@ constexpr wchar_t FILE_NOT_WRITTEN[] = L"Failed to write data to the file [%ls].
 constexpr wchar_t FLUSH_FAILED[] = L"Failed to write data to the file";
 /// code of the compression library (int)
 constexpr wchar_t COMPRESSION_FAILED[] = L"Failed to compress data. [Error Code: %d]";
+/// limit in octets
+constexpr wchar_t INFLATED_TOO_LARGE[] = L"The decompressed document exceeds the limit of %lu octets.";
 
 } // namespace Message
 } // namespace ZrXmlLib16

@@ -73,19 +73,15 @@ DecodedSequence DecodeSequence(const unsigned char* data, unsigned long availabl
     return lead >= 0xF0 && lead <= 0xF4 ? DecodeFour(data, available) : ILL_FORMED;
 }
 
-} // namespace
-
-std::wstring DecodeUtf8(const unsigned char* data, unsigned long length)
+// No sequence has more units than octets.
+template <class Unit> Unit* Decode(const unsigned char* data, unsigned long length, Unit* output)
 {
-    // No sequence has more units than octets.
-    std::wstring text(length, L'\0');
-    wchar_t* out = &text[0];
     unsigned long at = 0;
     bool inIllFormedRun = false;
     while (at < length) {
         while (length - at >= ASCII_RUN && IsAsciiRun(data + at)) {
             for (unsigned long i = 0; i < ASCII_RUN; ++i) {
-                *out++ = static_cast<wchar_t>(data[at++]);
+                *output++ = static_cast<Unit>(data[at++]);
             }
             inIllFormedRun = false;
         }
@@ -95,7 +91,7 @@ std::wstring DecodeUtf8(const unsigned char* data, unsigned long length)
         const DecodedSequence sequence = DecodeSequence(data + at, length - at);
         if (sequence.length == 0) {
             if (!inIllFormedRun) {
-                *out++ = static_cast<wchar_t>(REPLACEMENT_CHARACTER);
+                *output++ = static_cast<Unit>(REPLACEMENT_CHARACTER);
             }
             inIllFormedRun = true;
             ++at;
@@ -104,14 +100,33 @@ std::wstring DecodeUtf8(const unsigned char* data, unsigned long length)
         inIllFormedRun = false;
         at += sequence.length;
         if (sequence.codePoint < 0x10000) {
-            *out++ = static_cast<wchar_t>(sequence.codePoint);
+            *output++ = static_cast<Unit>(sequence.codePoint);
         } else {
-            *out++ = HighSurrogate(sequence.codePoint);
-            *out++ = LowSurrogate(sequence.codePoint);
+            *output++ = static_cast<Unit>(HighSurrogate(sequence.codePoint));
+            *output++ = static_cast<Unit>(LowSurrogate(sequence.codePoint));
         }
     }
-    text.resize(static_cast<unsigned long>(out - text.data()));
+    return output;
+}
+
+} // namespace
+
+std::wstring DecodeUtf8(const unsigned char* data, unsigned long length)
+{
+    std::wstring text(length, L'\0');
+    const wchar_t* const end = DecodeUtf8(data, length, &text[0]);
+    text.resize(static_cast<unsigned long>(end - text.data()));
     return text;
+}
+
+wchar_t* DecodeUtf8(const unsigned char* data, unsigned long length, wchar_t* output)
+{
+    return Decode(data, length, output);
+}
+
+unsigned short* DecodeUtf8(const unsigned char* data, unsigned long length, unsigned short* output)
+{
+    return Decode(data, length, output);
 }
 
 } // namespace ZrXmlLib16

@@ -3,33 +3,21 @@
 
 #include "ZrXmlLib16/Formatting.h"
 #include "ZrXmlLib16/ZrException.h"
+#include "streams/Inflate.h"
 #include "streams/StreamMessages.h"
+#include "streams/ZlibSlice.h"
 
-#include <algorithm>
+#include <limits>
 #include <memory>
 #include <utility>
-
-#include <zlib.h>
 
 namespace ZrXmlLib16 {
 
 namespace {
 
-constexpr unsigned long MAXIMUM_SLICE = 1UL << 30; // zlib counts in 32 bits
-constexpr unsigned long INFLATE_CHUNK = 65536;
-
 constexpr int COMPRESSION_LEVEL = 1;
 constexpr int GZIP_WINDOW_BITS = 31;
 constexpr int MEMORY_LEVEL = 8;
-constexpr int AUTODETECT_WINDOW_BITS = 47;
-
-/// Takes the next slice of a long buffer; the pointer is advanced by zlib.
-uInt NextSlice(unsigned long& remaining)
-{
-    const unsigned long slice = std::min(remaining, MAXIMUM_SLICE);
-    remaining -= slice;
-    return static_cast<uInt>(slice);
-}
 
 [[noreturn]] void ThrowCompressionFailed(int code)
 {
@@ -109,40 +97,6 @@ bool IsCompressing(CompressionType type)
     return type == Compression_GZip || type == Compression_ZLib;
 }
 
-/// Spares everything that is not compressed the set-up of a decompressor.
-bool HasCompressionHeader(const unsigned char* data, unsigned long length)
-{
-    if (length < 2) {
-        return false;
-    }
-    const bool isGzip = data[0] == 0x1F && data[1] == 0x8B;
-    const bool isZlib = (data[0] & 0x0F) == Z_DEFLATED && (data[0] << 8 | data[1]) % 31 == 0;
-    return isGzip || isZlib;
-}
-
-/// Inflates into the result; false when the data is damaged, cut off or not compressed.
-bool Inflate(unsigned char* data, unsigned long length, CBinaryData& result)
-{
-    z_stream stream{};
-    if (inflateInit2(&stream, AUTODETECT_WINDOW_BITS) != Z_OK) {
-        return false;
-    }
-    const std::unique_ptr<z_stream, int (*)(z_stream*)> cleanup(&stream, &inflateEnd);
-    const std::unique_ptr<unsigned char[]> chunk(new unsigned char[INFLATE_CHUNK]);
-    stream.next_in = data;
-    int code = Z_OK;
-    while (code == Z_OK) {
-        if (stream.avail_in == 0) {
-            stream.avail_in = NextSlice(length);
-        }
-        stream.next_out = chunk.get();
-        stream.avail_out = INFLATE_CHUNK;
-        code = inflate(&stream, Z_NO_FLUSH);
-        result.Append(chunk.get(), INFLATE_CHUNK - stream.avail_out);
-    }
-    return code == Z_STREAM_END;
-}
-
 } // namespace
 
 void CZrZip::Compress(unsigned char** buffer, unsigned long* length, CompressionType type)
@@ -156,15 +110,23 @@ void CZrZip::Compress(unsigned char** buffer, unsigned long* length, Compression
     *length = compressed.length;
 }
 
+// The octets are the caller's own: the limits of a context belong to documents, see CXmlDocument.
 void CZrZip::Decompress(unsigned char** buffer, unsigned long* length)
 {
     CBinaryData decompressed;
-    if (!HasCompressionHeader(*buffer, *length) || !Inflate(*buffer, *length, decompressed)) {
+    constexpr unsigned long UNLIMITED = std::numeric_limits<unsigned long>::max();
+    if (!HasCompressionHeader(*buffer, *length) || !InflateOctets(*buffer, *length, UNLIMITED, decompressed)) {
         return;
     }
     delete[] * buffer;
     *length = decompressed.GetLength();
     *buffer = decompressed.ReleaseData();
+}
+
+bool CZrZip::DecompressData(
+    const unsigned char* data, unsigned long length, unsigned long maximum, CBinaryData& decompressed)
+{
+    return HasCompressionHeader(data, length) && InflateOctets(data, length, maximum, decompressed);
 }
 
 void CZrZip::CompressData(CBinaryData& data, CompressionType type)

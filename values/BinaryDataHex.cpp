@@ -5,6 +5,7 @@
 #include "ZrXmlLib16/ZrInvalidValueException.h"
 #include "values/BinaryDataHolder.h"
 #include "values/BinaryMessages.h"
+#include "values/HexText.h"
 
 #include <cwchar>
 #include <memory>
@@ -29,6 +30,34 @@ unsigned int HexDigitValue(wchar_t digit)
 
 } // namespace
 
+unsigned long DecodedHexLength(unsigned long digitCount)
+{
+    if (digitCount % 2 != 0) {
+        throw CZrInvalidValueException(Message::HEX_LENGTH_ODD);
+    }
+    return digitCount / 2;
+}
+
+void DecodeHex(const wchar_t* text, unsigned long digitCount, unsigned char* out)
+{
+    for (unsigned long i = 0; i < digitCount; i += 2) {
+        const unsigned int high = HexDigitValue(text[i]);
+        *out++ = static_cast<unsigned char>(high << 4 | HexDigitValue(text[i + 1]));
+    }
+}
+
+void AppendHex(const unsigned char* data, unsigned long length, std::wstring& text)
+{
+    constexpr wchar_t digits[] = L"0123456789ABCDEF";
+    const std::size_t begin = text.size();
+    text.resize(begin + 2 * length);
+    wchar_t* out = text.data() + begin;
+    for (unsigned long i = 0; i < length; ++i) {
+        *out++ = digits[data[i] >> 4];
+        *out++ = digits[data[i] & 0x0F];
+    }
+}
+
 std::wstring CBinaryData::GetAsHexString() const
 {
     return GetAsHexString(GetData(), GetLength());
@@ -39,12 +68,8 @@ std::wstring CBinaryData::GetAsHexString(unsigned char* data, unsigned long leng
     if (data == nullptr) {
         return std::wstring();
     }
-    constexpr wchar_t digits[] = L"0123456789ABCDEF";
-    std::wstring text(2 * length, L'0');
-    for (unsigned long i = 0; i < length; ++i) {
-        text[2 * i] = digits[data[i] >> 4];
-        text[2 * i + 1] = digits[data[i] & 0x0F];
-    }
+    std::wstring text;
+    AppendHex(data, length, text);
     return text;
 }
 
@@ -60,18 +85,12 @@ unsigned long CBinaryData::ConvertToHexData(const wchar_t* text, unsigned char**
 {
     *data = nullptr;
     const unsigned long digitCount = text == nullptr ? 0 : std::wcslen(text);
-    if (digitCount % 2 != 0) {
-        throw CZrInvalidValueException(Message::HEX_LENGTH_ODD);
-    }
-    if (digitCount == 0) {
+    const unsigned long length = DecodedHexLength(digitCount);
+    if (length == 0) {
         return 0;
     }
-    const unsigned long length = digitCount / 2;
     std::unique_ptr<unsigned char[]> octets(new unsigned char[length]);
-    for (unsigned long i = 0; i < length; ++i) {
-        const unsigned int high = HexDigitValue(text[2 * i]);
-        octets[i] = static_cast<unsigned char>(high << 4 | HexDigitValue(text[2 * i + 1]));
-    }
+    DecodeHex(text, digitCount, octets.get());
     *data = octets.release();
     return length;
 }

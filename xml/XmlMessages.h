@@ -14,6 +14,12 @@ constexpr wchar_t FILE_OPEN_FAILED[] = L"Failed to open the file [%ls].";
 constexpr wchar_t FILE_SIZE_FAILED[] = L"Failed to get the size of the file [%ls] Error [%d]";
 /// file name, system error number
 constexpr wchar_t FILE_READ_FAILED[] = L"Failed to read the contents of the file [%ls] Error [%d]";
+/// limit in octets
+constexpr wchar_t DOCUMENT_TOO_LARGE[] = L"The document exceeds the limit of %lu octets.";
+/// limit
+constexpr wchar_t TOO_MANY_ELEMENTS[] = L"The document exceeds the limit of %lu elements.";
+constexpr wchar_t JSON_STRING_EMPTY[] = L"JSON String is empty!";
+constexpr wchar_t JSON_STREAM_EMPTY[] = L"JSON Stream is empty!";
 /// description, line
 constexpr wchar_t PARSE_FAILED[] = L"%ls at line %d";
 constexpr wchar_t NO_ELEMENT_OPEN_IN_DOCUMENT[] = L"The document has no open element.";
@@ -22,6 +28,8 @@ constexpr wchar_t ELEMENT_NOT_CLOSED[] = L"An Element has not been closed.";
 constexpr wchar_t ATTRIBUTE_AFTER_CONTENT[] = L"Attributes must be added before elements";
 constexpr wchar_t HEADER_AFTER_ELEMENT[] = L"Headed directives must appear before an Element has been added.";
 constexpr wchar_t INVALID_EOL_TYPE[] = L"Invalid EOL type.";
+/// local name of an element, an attribute or a type
+constexpr wchar_t UNKNOWN_NAMESPACE[] = L"Unknown Namespace: %ls.";
 constexpr wchar_t NO_ELEMENT_TO_END[] = L"There is no open element to end.";
 
 } // namespace Message

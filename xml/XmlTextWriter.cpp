@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ZrXmlLib16/XmlTextWriter.h"
 
-#include "ZrXmlLib16/TextStream.h"
 #include "ZrXmlLib16/ZrException.h"
 #include "ZrXmlLib16/ZrInvalidStateException.h"
 #include "core/TextArgument.h"
+#include "xml/InstanceAttributeNames.h"
+#include "xml/TextWriting.h"
 #include "xml/XmlMessages.h"
 #include "xml/XmlNamespaces.h"
 
@@ -14,27 +15,8 @@ namespace ZrXmlLib16 {
 
 namespace {
 
-constexpr unsigned long FLUSH_THRESHOLD = 4095;
 constexpr wchar_t CDATA_START[] = L"<![CDATA[";
 constexpr std::size_t CDATA_START_LENGTH = 9;
-
-struct InstanceAttributeNames {
-    const std::wstring namespaceUri{SCHEMA_INSTANCE_NAMESPACE_URI};
-    const std::wstring type{L"type"};
-    const std::wstring nil{L"nil"};
-    const std::wstring trueValue{L"true"};
-};
-
-const InstanceAttributeNames& GetInstanceAttributeNames()
-{
-    static const InstanceAttributeNames names;
-    return names;
-}
-
-template <std::size_t N> void AppendLiteral(CTextStream& stream, const wchar_t (&text)[N])
-{
-    stream.Append(text, N - 1);
-}
 
 constexpr std::uint64_t Bit(wchar_t c)
 {
@@ -54,17 +36,6 @@ bool IsSpecial(wchar_t c, std::uint64_t specials)
 bool IsCDATA(const std::wstring& value)
 {
     return value.compare(0, CDATA_START_LENGTH, CDATA_START) == 0;
-}
-
-const wchar_t* EndOfLineText(EOLType type)
-{
-    switch (type) {
-    case EOL_CRLF:
-        return L"\r\n";
-    case EOL_LF:
-        return L"\n";
-    }
-    throw CZrException(Message::INVALID_EOL_TYPE);
 }
 
 } // namespace
@@ -112,7 +83,7 @@ void CXmlTextWriter::WriteComment(const std::wstring& text)
     PadAndAppend(text, false);
     AppendLiteral(m_stream, L"-->");
     m_stream.Append(m_endOfLine);
-    FlushWhenFull();
+    FlushWhenFull(m_stream);
 }
 
 // kept: required behaviour. Two line ends follow.
@@ -121,7 +92,7 @@ void CXmlTextWriter::WritePI(const std::wstring& text)
     m_stream.Append(text);
     m_stream.Append(m_endOfLine);
     m_stream.Append(m_endOfLine);
-    FlushWhenFull();
+    FlushWhenFull(m_stream);
 }
 
 // kept: required behaviour. The schema goes into the start tag, which stays open.
@@ -131,7 +102,7 @@ void CXmlTextWriter::WriteInlineSchema(const std::wstring& text)
     m_stream.Append(m_endOfLine);
     m_stream.Append(text);
     m_stream.Append(m_endOfLine);
-    FlushWhenFull();
+    FlushWhenFull(m_stream);
 }
 
 void CXmlTextWriter::WriteStartElement(const std::wstring& name, const std::wstring& namespaceUri)
@@ -140,7 +111,7 @@ void CXmlTextWriter::WriteStartElement(const std::wstring& name, const std::wstr
     const bool isRoot = !GetCurrentContext();
     CXmlWriterContext& context = OpenContext(name, namespaceUri, 0);
     if (m_format) {
-        AppendIndentation(context.m_depth);
+        AppendIndentation(m_stream, m_indentChars, m_indentation, context.m_depth);
     }
     m_stream.Append(L'<');
     // kept: required behaviour. An element without namespace never undeclares the default namespace.
@@ -158,7 +129,7 @@ void CXmlTextWriter::WriteStartElement(const std::wstring& name, const std::wstr
     if (isRoot) {
         AppendRootDeclarations();
     }
-    FlushWhenFull();
+    FlushWhenFull(m_stream);
 }
 
 void CXmlTextWriter::AppendRootDeclarations()
@@ -193,7 +164,7 @@ void CXmlTextWriter::WriteString(const std::wstring& value, ItemType, bool isDef
     } else {
         PadAndAppend(value, false);
     }
-    FlushWhenFull();
+    FlushWhenFull(m_stream);
 }
 
 void CXmlTextWriter::WriteEndElement()
@@ -206,7 +177,7 @@ void CXmlTextWriter::WriteEndElement()
         AppendLiteral(m_stream, L"/>");
     } else {
         if (m_format && context->m_childCount > 0) {
-            AppendIndentation(context->m_depth);
+            AppendIndentation(m_stream, m_indentChars, m_indentation, context->m_depth);
         }
         AppendLiteral(m_stream, L"</");
         AppendName(context->m_prefix, context->m_localName);
@@ -215,7 +186,7 @@ void CXmlTextWriter::WriteEndElement()
     if (m_format) {
         m_stream.Append(m_endOfLine);
     }
-    FlushWhenFull();
+    FlushWhenFull(m_stream);
     CloseContext();
 }
 
@@ -239,7 +210,7 @@ void CXmlTextWriter::WriteAttributeString(
     AppendLiteral(m_stream, L"=\"");
     PadAndAppend(value, true);
     m_stream.Append(L'"');
-    FlushWhenFull();
+    FlushWhenFull(m_stream);
 }
 
 void CXmlTextWriter::WriteAttributeType(const std::wstring& typeName, const std::wstring& typeNamespace, ItemType type)
@@ -279,7 +250,7 @@ void CXmlTextWriter::WriteStartDocument()
     }
     AppendLiteral(m_stream, L"?>");
     m_stream.Append(m_endOfLine);
-    FlushWhenFull();
+    FlushWhenFull(m_stream);
 }
 
 void CXmlTextWriter::WriteHeaderDirective(const std::wstring& text)
@@ -289,7 +260,7 @@ void CXmlTextWriter::WriteHeaderDirective(const std::wstring& text)
     }
     m_stream.Append(text);
     m_stream.Append(m_endOfLine);
-    FlushWhenFull();
+    FlushWhenFull(m_stream);
 }
 
 void CXmlTextWriter::WriteRawElement(const std::wstring& text)
@@ -376,27 +347,11 @@ void CXmlTextWriter::AppendDeclaration(const std::wstring& prefix, const std::ws
     m_stream.Append(L'"');
 }
 
-void CXmlTextWriter::AppendIndentation(unsigned long depth)
-{
-    const std::size_t length = depth * m_indentChars.size();
-    while (m_indentation.size() < length) {
-        m_indentation.append(m_indentChars);
-    }
-    m_stream.Append(m_indentation.data(), length);
-}
-
 void CXmlTextWriter::RequireOpenStartTag() const
 {
     const CXmlWriterContext* const context = GetCurrentContext();
     if (!context || !context->m_startTagOpen) {
         throw CZrException(Message::ATTRIBUTE_AFTER_CONTENT);
-    }
-}
-
-void CXmlTextWriter::FlushWhenFull()
-{
-    if (m_stream.GetLength() > FLUSH_THRESHOLD) {
-        m_stream.Flush();
     }
 }
 

@@ -2,13 +2,13 @@
 #include "GpxFile.h"
 
 #include "Extensions.h"
+#include "Stopwatch.h"
 #include "ZrXmlLib16/AttributeCol.h"
 #include "ZrXmlLib16/Encoder.h"
 #include "ZrXmlLib16/XmlDocument.h"
 #include "ZrXmlLib16/XmlElement.h"
 #include "ZrXmlLib16/ZrException.h"
 
-#include <chrono>
 #include <filesystem>
 
 namespace Demo {
@@ -21,17 +21,6 @@ namespace {
 
 constexpr wchar_t INSTANCE_NAMESPACE[] = L"http://www.w3.org/2001/XMLSchema-instance";
 constexpr wchar_t SCHEMA_LOCATION[] = L"http://www.topografix.com/GPX/1/1 http://www.topografix.com/GPX/1/1/gpx.xsd";
-
-class CStopwatch {
-public:
-    double GetSeconds() const
-    {
-        return std::chrono::duration<double>(std::chrono::steady_clock::now() - m_start).count();
-    }
-
-private:
-    std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
-};
 
 /// Reading takes any root element, because the object takes the name that it is read under.
 void RequireGpxRoot(const CXmlElement& root)
@@ -68,11 +57,23 @@ void AddPrefixes(const Prefixes& prefixes, ZrXmlLib16::CNamespaceAliasMap& alias
     }
 }
 
+/// JSON declares all namespaces on its root element.
+void AddInventedPrefix(const std::wstring& uri, ZrXmlLib16::CNamespaceAliasMap& aliases)
+{
+    std::wstring prefix;
+    for (int number = 1; prefix.empty() || aliases.DoesAliasExist(prefix.c_str()); ++number) {
+        prefix = L"ns" + std::to_wstring(number);
+    }
+    if (!uri.empty() && !aliases.DoesNamespaceExist(uri.c_str())) {
+        aliases.Add(prefix.c_str(), uri.c_str());
+    }
+}
+
 } // namespace
 
 ReadResult ReadGpxFile(const std::wstring& fileName)
 {
-    const CStopwatch stopwatch;
+    const Stopwatch stopwatch;
     ReadResult result{};
     result.gpx = new Gpx::CGpx;
     CSerializationContext context;
@@ -97,18 +98,26 @@ ReadResult ReadGpxFile(const std::wstring& fileName)
     return result;
 }
 
-Cost WriteGpxFile(const Gpx::CGpx& gpx, const Prefixes& prefixes, const std::wstring& fileName)
+void PrepareToWrite(const Gpx::CGpx& gpx, const Prefixes& prefixes, CSerializationContext& context)
 {
-    CSerializationContext context;
     context.SetWriteTypeAttribute(false);
     ZrXmlLib16::CNamespaceAliasMap& aliases = context.GetNamespaceAliases();
     aliases.Add(L"xsi", INSTANCE_NAMESPACE);
     AddPrefixes(prefixes, aliases);
+    for (const ZrXmlLib16::CElement* element : FindUntypedElements(gpx)) {
+        AddInventedPrefix(element->GetNamespace(), aliases);
+    }
     if (MayHaveDefaultNamespace(gpx)) {
         context.SetDefaultNamespaceURI(Gpx::NAMESPACE);
     }
     context.GetAdditionalRootAttributes()->Add(INSTANCE_NAMESPACE, SCHEMA_LOCATION, L"schemaLocation");
-    const CStopwatch stopwatch;
+}
+
+Cost WriteGpxFile(const Gpx::CGpx& gpx, const Prefixes& prefixes, const std::wstring& fileName)
+{
+    CSerializationContext context;
+    PrepareToWrite(gpx, prefixes, context);
+    const Stopwatch stopwatch;
     gpx.ToXmlFile(fileName.c_str(), true, true, ZrXmlLib16::Encoding_UTF8, ZrXmlLib16::EOL_LF, context);
     const double seconds = stopwatch.GetSeconds();
     return {seconds, FileSize(fileName)};

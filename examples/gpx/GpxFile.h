@@ -34,8 +34,12 @@ struct ReadResult {
 /// unknown elements and attributes.
 ReadResult ReadGpxFile(const std::wstring& fileName);
 
-/// Writes a GPX file in UTF-8.
+/// Sets up a context that declares what the document uses.
 /// @param prefixes for the namespaces of the extensions; those that are not in it get invented ones.
+void PrepareToWrite(const Gpx::CGpx& gpx, const Prefixes& prefixes, ZrXmlLib16::CSerializationContext& context);
+
+/// Writes a GPX file in UTF-8.
+/// @param prefixes as for PrepareToWrite.
 /// @throws CZrException when the objects break a rule of the schema, or the file cannot be written.
 Cost WriteGpxFile(const Gpx::CGpx& gpx, const Prefixes& prefixes, const std::wstring& fileName);
 

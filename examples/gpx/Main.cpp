@@ -4,6 +4,7 @@
 #include "Extensions.h"
 #include "GpxFile.h"
 #include "Mistakes.h"
+#include "OtherFormats.h"
 #include "SampleWalk.h"
 #include "Summary.h"
 #include "ZrXmlLib16/Encoder.h"
@@ -121,6 +122,24 @@ void ChangeCopy(const Gpx::CGpx& gpx, const Gpx::CGpx& copy)
     Print(L"  After one change to the copy they differ, first at " + Demo::FindDifference(gpx, copy) + L"\n");
 }
 
+/// @return whether no format gives other objects back.
+bool CompareFormats(const Gpx::CGpx& gpx, const Demo::Prefixes& prefixes)
+{
+    std::printf("\nThe same objects in each format:       bytes   write ms   read ms\n");
+    bool equal = true;
+    for (const Demo::RoundTrip& trip : Demo::TryFormats(gpx, prefixes)) {
+        std::printf("  %-32s %10lu %10.1f %9.1f  ", trip.format, trip.bytes, trip.writeSeconds * 1000.0,
+            trip.readSeconds * 1000.0);
+        if (!trip.failure.empty()) {
+            Print(trip.failure + L"\n");
+        } else {
+            Print(trip.difference.empty() ? L"equal objects\n" : L"differ at " + trip.difference + L"\n");
+        }
+        equal = equal && trip.difference.empty();
+    }
+    return equal;
+}
+
 /// @return whether reading the file gives objects equal to the given ones.
 bool CheckCopy(Gpx::CGpx& gpx, const std::string& fileName)
 {
@@ -151,7 +170,8 @@ int Run(const std::string& input, const std::string& output)
     }
     Change(*original.gpx);
     PrintCost("Wrote", output, Write(*original.gpx, original.prefixes, output));
-    const bool equal = CheckCopy(*original.gpx, output);
+    bool equal = CheckCopy(*original.gpx, output);
+    equal = CompareFormats(*original.gpx, original.prefixes) && equal;
     PrintReport("A mistake on writing, latitude 91:", Demo::WriteImpossibleLatitude());
     PrintReport("A mistake on reading, <elle> for <ele>:", Demo::ReadMisspeltElement());
     return equal ? 0 : 1;

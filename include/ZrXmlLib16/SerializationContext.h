@@ -3,6 +3,7 @@
 #define ZRXMLLIB16_SERIALIZATIONCONTEXT_H
 
 #include "ZrXmlLib16/Export.h"
+#include "ZrXmlLib16/InputLimits.h"
 #include "ZrXmlLib16/NamespaceAliasMap.h"
 #include "ZrXmlLib16/SchemaType.h"
 #include "ZrXmlLib16/SmartPtr.h"
@@ -96,6 +97,9 @@ public:
     int GetMaxDepth() const;
     /// @throws CZrInvalidParamException for a value below 1.
     void SetMaxDepth(int levels);
+    /// How much a document that is read may grow to.
+    const CInputLimits& GetInputLimits() const;
+    void SetInputLimits(const CInputLimits& limits);
 
 private:
     friend class CFormatSettings;
@@ -126,6 +130,7 @@ private:
     bool m_stripCDATA;
     std::wstring m_indentChars;
     int m_maxDepth;
+    CInputLimits m_inputLimits;
 };
 
 } // namespace ZrXmlLib16

@@ -2,6 +2,7 @@
 #ifndef ZRXMLLIB16_XMLDOCUMENT_H
 #define ZRXMLLIB16_XMLDOCUMENT_H
 
+#include "ZrXmlLib16/BinaryData.h"
 #include "ZrXmlLib16/Export.h"
 #include "ZrXmlLib16/SchemaType.h"
 
@@ -47,12 +48,23 @@ public:
     void LoadXml(const char* text);
     /// The same for wide text, of which the low 16 bits of every character are taken as UTF-16.
     void LoadXml(const wchar_t* text);
-    /// Reads XML text, compressed (gzip, zlib) or not, which is not needed any more afterwards.
+    /// Reads XML text or a Fast Infoset document, compressed (gzip, zlib) or not, which is not needed any more
+    /// afterwards.
     void LoadXmlStream(const unsigned char* bytes, unsigned long length);
     /// Reads a file as LoadXmlStream does.
     /// @throws CZrException also when the file cannot be opened, has no length or cannot be read; an empty file cannot
     /// be read.
     void Load(const wchar_t* fileName);
+
+    /// Convert JSON text into a document in UTF-8, for LoadXmlStream, in the JSON mode of the context. Narrow text is
+    /// widened octet by octet; the stream and the file are UTF-8, compressed (gzip, zlib) or not. Nothing stays in
+    /// this document. Null is empty.
+    /// @throws CZrException for empty input, and as Load does.
+    /// @throws CZrValidationException for text that is not JSON or no document: message and JSON path.
+    CBinaryData LoadJson(const char* text);
+    CBinaryData LoadJson(const wchar_t* text);
+    CBinaryData LoadJsonStream(const unsigned char* bytes, unsigned long length);
+    CBinaryData LoadJsonFile(const wchar_t* fileName);
 
     /// The root, null when there is none.
     CXmlElement* GetDocumentElement() const;
@@ -95,9 +107,10 @@ private:
 
     void Parse();
     void ParseText();
+    CBinaryData ParseJson();
     class InputScope;
     void AllocateInput(unsigned long size);
-    bool MayBeCompressed() const;
+    void CheckInputSize() const;
     void Decompress();
     void ReadFile(const wchar_t* fileName);
     void DestroyTree() noexcept;
@@ -115,6 +128,7 @@ private:
     std::unique_ptr<unsigned char[]> m_inputBuffer;   // null when the input is the caller's
     const unsigned char* m_input;
     unsigned long m_inputSize;
+    unsigned long m_elementCount; // begun since the last clean-up
     SchemaType m_schemaType;
     bool (*m_elementEnd)(CXmlElement*);
     const CSerializationContext* m_context;

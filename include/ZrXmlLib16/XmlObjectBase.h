@@ -6,6 +6,7 @@
 #include "ZrXmlLib16/CompressionType.h"
 #include "ZrXmlLib16/EOLType.h"
 #include "ZrXmlLib16/Export.h"
+#include "ZrXmlLib16/FInfoDecl.h"
 #include "ZrXmlLib16/IEventSink.h"
 #include "ZrXmlLib16/SerializationContext.h"
 #include "ZrXmlLib16/XmlEncoding.h"
@@ -53,17 +54,46 @@ public:
         XmlEncoding encoding = Encoding_UTF8, EOLType eol = EOL_LF,
         const CSerializationContext& context = CSerializationContext::m_defaultContext,
         CompressionType compression = Compression_None) const;
+    /// Writes the object into a file as a Fast Infoset document (ITU-T X.891), with the context's settings of it.
+    /// @param compression as for ToXmlFile.
+    virtual void ToFastInfosetFile(const wchar_t* fileName, FInfoDecl declaration = FInfoDecl_None,
+        const CSerializationContext& context = CSerializationContext::m_defaultContext,
+        CompressionType compression = Compression_None) const;
+    /// Writes the object into a file as JSON, in the context's JSON mode. Values and names that hold quotation marks or
+    /// backslashes are not escaped: such a document cannot be read again.
+    /// @param compression as for ToXmlFile.
+    virtual void ToJsonFile(const wchar_t* fileName, bool formatted = true, XmlEncoding encoding = Encoding_UTF8,
+        EOLType eol = EOL_LF, const CSerializationContext& context = CSerializationContext::m_defaultContext,
+        CompressionType compression = Compression_None) const;
     /// The object as XML text. The XML declaration, when wanted, names no encoding.
     virtual std::wstring ToXml(bool includeHeader = true, bool formatted = true, EOLType eol = EOL_LF,
+        const CSerializationContext& context = CSerializationContext::m_defaultContext) const;
+    /// The object as JSON text, as ToJsonFile writes it.
+    virtual std::wstring ToJson(bool formatted = true, EOLType eol = EOL_LF,
         const CSerializationContext& context = CSerializationContext::m_defaultContext) const;
     /// The object as the bytes of an XML document, compressed when asked for.
     virtual CBinaryData ToXmlStream(bool includeHeader = true, bool formatted = true,
         XmlEncoding encoding = Encoding_UTF8, EOLType eol = EOL_LF,
         const CSerializationContext& context = CSerializationContext::m_defaultContext,
         CompressionType compression = Compression_None) const;
+    /// The object as a Fast Infoset document, compressed when asked for.
+    virtual CBinaryData ToFastInfosetStream(FInfoDecl declaration = FInfoDecl_None,
+        const CSerializationContext& context = CSerializationContext::m_defaultContext,
+        CompressionType compression = Compression_None) const;
+    /// The object as the bytes of a JSON document, compressed when asked for.
+    virtual CBinaryData ToJsonStream(bool formatted = true, XmlEncoding encoding = Encoding_UTF8, EOLType eol = EOL_LF,
+        const CSerializationContext& context = CSerializationContext::m_defaultContext,
+        CompressionType compression = Compression_None) const;
 
-    /// Fills the object from a file: XML text in UTF-8 or UTF-16, gzip or zlib compressed or not.
+    /// Fills the object from a file: XML text in UTF-8 or UTF-16 or a Fast Infoset document, gzip or zlib compressed or
+    /// not.
     virtual void FromXmlFile(
+        const wchar_t* fileName, const CSerializationContext& context = CSerializationContext::m_defaultContext);
+    /// Fills the object from a file of JSON in UTF-8, compressed or not. The FromJson operations read the mode of the
+    /// context; in a mode other than JsonRoundTrip_Full they change the context's GetIgnoreNamespaces() during the
+    /// call.
+    /// @throws CZrValidationException with the JSON path for text that is not JSON.
+    virtual void FromJsonFile(
         const wchar_t* fileName, const CSerializationContext& context = CSerializationContext::m_defaultContext);
     /// Fills the object from a zero-terminated document in the encoding that the document declares.
     virtual void FromXml(
@@ -71,10 +101,22 @@ public:
     /// Fills the object from wide text. The low 16 bits of each character are taken as one UTF-16 unit.
     virtual void FromXml(
         const wchar_t* text, const CSerializationContext& context = CSerializationContext::m_defaultContext);
-    /// Fills the object from the bytes of a document, compressed or not; the bytes stay the caller's.
+    /// Fills the object from zero-terminated JSON text, of which each octet is taken for one character.
+    virtual void FromJson(
+        const char* text, const CSerializationContext& context = CSerializationContext::m_defaultContext);
+    /// Fills the object from JSON text.
+    virtual void FromJson(
+        const wchar_t* text, const CSerializationContext& context = CSerializationContext::m_defaultContext);
+    /// Fills the object from the bytes of an XML or Fast Infoset document, compressed or not; the bytes stay the
+    /// caller's.
     virtual void FromXmlStream(const unsigned char* bytes, unsigned long length,
         const CSerializationContext& context = CSerializationContext::m_defaultContext);
     virtual void FromXmlStream(
+        const CBinaryData& bytes, const CSerializationContext& context = CSerializationContext::m_defaultContext);
+    /// Fills the object from the bytes of JSON in UTF-8, compressed or not; the bytes stay the caller's.
+    virtual void FromJsonStream(const unsigned char* bytes, unsigned long length,
+        const CSerializationContext& context = CSerializationContext::m_defaultContext);
+    virtual void FromJsonStream(
         const CBinaryData& bytes, const CSerializationContext& context = CSerializationContext::m_defaultContext);
     /// Fills the object from an element of a document that is already loaded; the tree is not changed.
     virtual void FromXmlElement(
@@ -135,6 +177,9 @@ protected:
     static void FireOnCollectionRemoveEvent(IEventSink* listener, CXmlCollectionBase* collection, int index);
     static void FireOnCollectionRemoveCompleteEvent(IEventSink* listener, CXmlCollectionBase* collection, int index);
 
+    /// Fills the object from what CXmlDocument::LoadJson returned.
+    void FromJson_Int(const CBinaryData& bytes, const CSerializationContext& context);
+
     CXmlObjectBase();
     /// Copies the element name only; the copy counts no references.
     CXmlObjectBase(const CXmlObjectBase& other);
@@ -148,6 +193,9 @@ protected:
 private:
     void WriteDocument(CTextStream& stream, bool includeHeader, bool formatted, EOLType eol,
         const CSerializationContext& context) const;
+    void WriteJson(
+        CTextStream& stream, bool formatted, EOLType eol, const CSerializationContext& context, bool isInMemory) const;
+    void ReadConverted(CBinaryData bytes, const CSerializationContext& context);
     void ReadElement(const CXmlElement* element, const CSerializationContext& context);
 
     std::wstring m_elementName;

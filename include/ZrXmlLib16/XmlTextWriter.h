@@ -75,9 +75,7 @@ private:
     void AppendName(const std::wstring& prefix, const std::wstring& name);
     void AppendDeclaration(const std::wstring& prefix, const std::wstring& namespaceUri);
     void AppendRootDeclarations();
-    void AppendIndentation(unsigned long depth);
     void RequireOpenStartTag() const;
-    void FlushWhenFull();
 
     bool m_writeDefaultElementValues;
     std::wstring m_indentChars;

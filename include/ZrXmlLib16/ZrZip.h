@@ -30,6 +30,12 @@ public:
     /// Compresses a value; an empty one is left alone.
     /// @throws CZrException as Compress does; the value is unchanged.
     static void CompressData(CBinaryData& data, CompressionType type);
+
+    /// Appends what gzip or zlib data decompress to.
+    /// @return false for anything else, damaged data included.
+    /// @throws CZrException when that is more than the maximum.
+    static bool DecompressData(
+        const unsigned char* data, unsigned long length, unsigned long maximum, CBinaryData& decompressed);
 };
 
 } // namespace ZrXmlLib16

@@ -42,7 +42,7 @@ class ZrXmlLib16Conan(ConanFile):
 
     def requirements(self):
         self.requires("zlib/[>=1.2.13 <2]")
-        self.requires("pcre/8.45")
+        self.requires("pcre2/[>=10.40 <11]")
         # Its names are hidden or renamed in the library, so the 8-bit expat of the program is no conflict.
         self.requires("expat/[>=2.6.2 <3]", visible=False,
                       options={"char_type": "ushort", "shared": False, "fPIC": True})
@@ -55,14 +55,15 @@ class ZrXmlLib16Conan(ConanFile):
         toolchain = CMakeToolchain(self)
         toolchain.cache_variables["ZRXML_STATIC"] = not self.options.shared
         toolchain.cache_variables["ZRXML_BUILD_TOOLS"] = bool(self.options.tools)
+        toolchain.cache_variables["ZRXML_PATTERN_ENGINE"] = "pcre2"
         for option in ("ZRXML_BUILD_TESTS", "ZRXML_BUILD_EXAMPLES", "ZRXML_WARNINGS_AS_ERRORS"):
             toolchain.cache_variables[option] = False
         # The library's own find modules look for files, not for the targets that CMakeDeps makes.
-        for package, module, library in (("expat", "ExpatWide", "libexpatw.a"), ("pcre", "Pcre", None)):
+        for package, module, library in (("expat", "ExpatWide", "libexpatw.a"), ("pcre2", "Pcre2", None)):
             info = self.dependencies[package].cpp_info.aggregated_components()
             toolchain.cache_variables[f"{module}_INCLUDE_DIR"] = info.includedirs[0]
             if library is None:
-                library = "libpcre.so" if self.dependencies[package].options.shared else "libpcre.a"
+                library = "libpcre2-8.so" if self.dependencies[package].options.shared else "libpcre2-8.a"
             toolchain.cache_variables[f"{module}_LIBRARY"] = os.path.join(info.libdirs[0], library)
         toolchain.generate()
 

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Bytes.h"
 
+#include "ZrXmlLib16/BinaryData.h"
+#include "ZrXmlLib16/InputLimits.h"
+#include "ZrXmlLib16/ZrZip.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
@@ -57,6 +61,11 @@ std::vector<unsigned char> ReadBytes(const std::string& fileName)
         ThrowSystemError();
     }
     bytes.resize(length);
+    ZrXmlLib16::CBinaryData inflated;
+    const unsigned long maximum = ZrXmlLib16::CInputLimits().GetMaxInflatedOctets();
+    if (ZrXmlLib16::CZrZip::DecompressData(bytes.data(), bytes.size(), maximum, inflated)) {
+        bytes.assign(inflated.GetData(), inflated.GetData() + inflated.GetLength());
+    }
     return bytes;
 }
 

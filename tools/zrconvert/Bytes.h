@@ -10,8 +10,8 @@ namespace Convert {
 /// Stands for standard input or standard output, depending on the direction.
 constexpr char STANDARD_STREAM[] = "-";
 
-/// The whole file, or what is left of standard input.
-/// @throws std::runtime_error when it cannot be read.
+/// The whole file, or what is left of standard input, decompressed when it is compressed (gzip, zlib).
+/// @throws std::runtime_error when it cannot be read, CZrException when it decompresses to more than the library reads.
 std::vector<unsigned char> ReadBytes(const std::string& fileName);
 
 /// Replaces the file, or writes to standard output. Returns when the octets have left the program.

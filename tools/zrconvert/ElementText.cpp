@@ -36,12 +36,12 @@ void PrepareText(const CXmlElement& source, CElement& element, const TextRules& 
 {
     const std::wstring& original = source.GetText();
     const bool mayTrim = rules.trim && source.GetFirstElement();
-    const bool maySections = original.find(SECTION_START) != std::wstring::npos;
+    const bool maySections = rules.forXml && original.find(SECTION_START) != std::wstring::npos;
     if (original.empty() || !(mayTrim || maySections)) {
         return;
     }
     const std::wstring trimmed = mayTrim ? Trim(original) : original;
-    element.SetText(GatherSections(trimmed, rules.hasSections).c_str());
+    element.SetText((maySections ? GatherSections(trimmed, rules.hasSections) : trimmed).c_str());
 }
 
 } // namespace

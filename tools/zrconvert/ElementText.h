@@ -17,10 +17,12 @@ struct TextRules {
     bool trim;
     /// Whether the text has been read with the delimiters of its CDATA sections.
     bool hasSections;
+    /// Whether the text is for a writer of XML, which takes a text that begins like a section for one.
+    bool forXml;
 };
 
-/// Makes the texts of a tree what the writer needs. It writes a text that begins like a CDATA section as it is, and
-/// escapes every other one as a whole.
+/// Makes the texts of a tree what the writer needs. That of XML writes a text that begins like a CDATA section as it
+/// is, and escapes every other one as a whole.
 /// @param source what the tree was copied from
 void PrepareTexts(const ZrXmlLib16::CXmlElement& source, ZrXmlLib16::CElement& tree, const TextRules& rules);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Formats.h"
 
+#include "FastInfosetFormat.h"
+#include "JsonFormat.h"
 #include "XmlFormat.h"
 
 #include <algorithm>
@@ -13,7 +15,9 @@ namespace {
 /// In the order of asking for what they recognise: XML takes what nobody else wants, because its reader says best why
 /// something is no document.
 constexpr Format FORMATS[] = {
-    {"xml", [](const Bytes&) { return true; }, ReadXml, WriteXml},
+    {"finf", true, false, IsFastInfoset, ReadFastInfoset, WriteFastInfoset},
+    {"json", false, false, LooksLikeJson, ReadJson, WriteJson},
+    {"xml", true, true, [](const Bytes&) { return true; }, ReadXml, WriteXml},
 };
 
 } // namespace
@@ -34,8 +38,8 @@ const Format& RecogniseFormat(const Bytes& bytes)
 std::string ListFormats()
 {
     std::string names;
-    for (const Format& row : FORMATS) {
-        names.append(names.empty() ? "" : "|").append(row.name);
+    for (auto row = std::rbegin(FORMATS); row != std::rend(FORMATS); ++row) {
+        names.append(names.empty() ? "" : "|").append(row->name);
     }
     return names;
 }

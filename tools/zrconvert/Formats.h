@@ -2,10 +2,12 @@
 #ifndef ZRCONVERT_FORMATS_H
 #define ZRCONVERT_FORMATS_H
 
+#include "ElementText.h"
 #include "ZrXmlLib16/BinaryData.h"
 #include "ZrXmlLib16/CompressionType.h"
 #include "ZrXmlLib16/EOLType.h"
 #include "ZrXmlLib16/Element.h"
+#include "ZrXmlLib16/JsonRoundTrip.h"
 #include "ZrXmlLib16/SerializationContext.h"
 
 #include <string>
@@ -19,6 +21,9 @@ struct Settings {
     bool keepSections = false;
     ZrXmlLib16::EOLType endOfLine = ZrXmlLib16::EOL_LF;
     ZrXmlLib16::CompressionType compression = ZrXmlLib16::Compression_None;
+    ZrXmlLib16::JsonRoundTrip jsonMode = ZrXmlLib16::JsonRoundTrip_Full;
+    /// What the format of the output needs.
+    TextRules texts = {false, false, true};
 };
 
 /// A document between two formats. The context holds the namespaces to declare when it is written.
@@ -32,7 +37,11 @@ typedef std::vector<unsigned char> Bytes;
 /// One way of storing a document. Reading and writing throw CZrException.
 struct Format {
     const char* name;
-    /// Whether input that is not said to be of any format is of this one.
+    /// Whether an element can have text beside its children that is mere indentation.
+    bool hasIndentation;
+    /// Whether it is XML text, with CDATA sections.
+    bool isXml;
+    /// Whether input that is not said to be of any format is of this one. The bytes are not compressed.
     bool (*recognises)(const Bytes& bytes);
     Document (*read)(const Bytes& bytes, const Settings& settings);
     ZrXmlLib16::CBinaryData (*write)(const Document& document, const Settings& settings);

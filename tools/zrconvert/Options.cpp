@@ -17,6 +17,7 @@ enum OptionCode : int {
     Option_Eol,
     Option_Compress,
     Option_KeepCData,
+    Option_JsonMode,
     Option_Help,
     Option_Version
 };
@@ -29,6 +30,7 @@ constexpr option LONG_OPTIONS[] = {
     {"eol", required_argument, nullptr, Option_Eol},
     {"compress", required_argument, nullptr, Option_Compress},
     {"keep-cdata", no_argument, nullptr, Option_KeepCData},
+    {"json-mode", required_argument, nullptr, Option_JsonMode},
     {"help", no_argument, nullptr, Option_Help},
     {"version", no_argument, nullptr, Option_Version},
     {nullptr, 0, nullptr, 0},
@@ -42,6 +44,9 @@ template <class T> struct Choice {
 constexpr Choice<ZrXmlLib16::EOLType> LINE_ENDS[] = {{"lf", ZrXmlLib16::EOL_LF}, {"crlf", ZrXmlLib16::EOL_CRLF}};
 constexpr Choice<ZrXmlLib16::CompressionType> COMPRESSIONS[] = {
     {"gzip", ZrXmlLib16::Compression_GZip}, {"zlib", ZrXmlLib16::Compression_ZLib}};
+
+constexpr Choice<ZrXmlLib16::JsonRoundTrip> JSON_MODES[] = {{"0", ZrXmlLib16::JsonRoundTrip_Plain},
+    {"1", ZrXmlLib16::JsonRoundTrip_Attributes}, {"2", ZrXmlLib16::JsonRoundTrip_Full}};
 
 [[noreturn]] void RefuseValue(const char* optionName, const std::string& value)
 {
@@ -90,6 +95,9 @@ void Apply(int code, Options& options)
     case Option_KeepCData:
         options.settings.keepSections = true;
         break;
+    case Option_JsonMode:
+        options.settings.jsonMode = ParseChoice(JSON_MODES, "json-mode", optarg);
+        break;
     case Option_Help:
         options.action = Options::Action_Help;
         break;
@@ -126,6 +134,9 @@ Options ParseOptions(int argc, char** argv)
     if (options.action != Options::Action_Convert) {
         return options;
     }
+    Settings& settings = options.settings;
+    settings.keepSections = settings.keepSections && options.to->isXml;
+    settings.texts = {settings.format || !options.to->hasIndentation, settings.keepSections, options.to->isXml};
     const int operands = argc - optind;
     if (operands < 1 || operands > 2) {
         throw UsageError(operands < 1 ? "no input is named" : "more than two files are named");
@@ -141,25 +152,26 @@ std::string MakeHelp()
     return "Usage: zrconvert [OPTION]... IN [OUT]\n"
            "Reads a document without its schema and writes it again. '-' stands for standard input or standard\n"
            "output; without OUT, standard output is written. The encoding and the compression (gzip, zlib) of the\n"
-           "input are recognised. XML is written in UTF-8.\n"
+           "input are recognised. XML and JSON are written in UTF-8; finf is Fast Infoset (ITU-T X.891).\n"
            "\n"
            "  --from auto|"
         + formats
-        + "           format of the input; auto, which is the default, recognises it\n"
+        + " format of the input; auto, which is the default, recognises it\n"
           "  --to "
-        + formats + R"(                  format of the output (default: xml)
+        + formats + R"(        format of the output (default: xml)
+  --json-mode 0|1|2         what JSON carries: plain names, attributes as "@name", or namespaces too (default: 2)
   --no-format               adds no white space (default); white space of the input stays
   --format                  a line for each element, indented; elements that have children lose the white
                             space around their text
   --eol lf|crlf             line ends (default: lf)
   --compress gzip|zlib      compresses the output; refused when it does not become shorter
-  --keep-cdata              writes CDATA sections as such, not as escaped text
+  --keep-cdata              writes CDATA sections of XML as such, not as escaped text
   --help                    prints this text
   --version                 prints the version
 
 What is not carried over: comments, processing instructions, the document type, and where the text of an
 element stood between its children: all of it comes behind the last child, with the white space that
-indented them unless --format is given. Namespaces are declared on the root element. Prefixes inside values
+indented them unless --format is given or JSON is written. Namespaces are declared on the root element. Prefixes inside values
 stay as they are, also when a prefix changes because the document binds it more than once.
 
 Exit status: 0 done, 1 input refused or output failed, 2 wrong usage.

@@ -7,17 +7,22 @@
 
 namespace Convert {
 
-Document ReadXml(const Bytes& bytes, const Settings& settings)
+Document ReadTree(Document document, const Bytes& bytes, const TextRules& texts)
 {
-    Document document;
-    document.context.SetStripCDATA(!settings.keepSections);
     ZrXmlLib16::CXmlDocument source(document.context);
     source.LoadXmlStream(bytes.data(), bytes.size());
     document.root = new ZrXmlLib16::CElement;
     document.root->FromXmlElement(source.GetDocumentElement(), document.context);
-    PrepareTexts(*source.GetDocumentElement(), *document.root, {settings.format, settings.keepSections});
+    PrepareTexts(*source.GetDocumentElement(), *document.root, texts);
     TakeOverPrefixes(source, document.context);
     return document;
+}
+
+Document ReadXml(const Bytes& bytes, const Settings& settings)
+{
+    Document document;
+    document.context.SetStripCDATA(!settings.keepSections);
+    return ReadTree(document, bytes, settings.texts);
 }
 
 ZrXmlLib16::CBinaryData WriteXml(const Document& document, const Settings& settings)

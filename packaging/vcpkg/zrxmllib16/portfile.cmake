@@ -12,6 +12,7 @@ vcpkg_cmake_configure(
   OPTIONS
     ${feature_options}
     -DZRXML_STATIC=${ZRXML_STATIC}
+    -DZRXML_PATTERN_ENGINE=pcre2
     -DZRXML_BUILD_TESTS=OFF
     -DZRXML_BUILD_EXAMPLES=OFF
     -DZRXML_WARNINGS_AS_ERRORS=OFF)

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+// The entry points of CXmlObjectBase for JSON.
+#include "ZrXmlLib16/Encoder.h"
+#include "ZrXmlLib16/FileTextStream.h"
+#include "ZrXmlLib16/Formatting.h"
+#include "ZrXmlLib16/JsonContext.h"
+#include "ZrXmlLib16/JsonTextWriter.h"
+#include "ZrXmlLib16/TextStream.h"
+#include "ZrXmlLib16/XmlDocument.h"
+#include "ZrXmlLib16/XmlObjectBase.h"
+#include "ZrXmlLib16/ZrException.h"
+#include "core/CoreMessages.h"
+#include "core/EntryPointFiles.h"
+#include "core/FormatSettings.h"
+#include "core/VersionCheck.h"
+
+#include <optional>
+#include <utility>
+
+namespace ZrXmlLib16 {
+
+void CXmlObjectBase::WriteJson(
+    CTextStream& stream, bool formatted, EOLType eol, const CSerializationContext& context, bool isInMemory) const
+{
+    CJsonTextWriter writer(stream);
+    writer.m_flushesOften = isInMemory;
+    writer.Open();
+    writer.SetFormat(formatted);
+    writer.SetIndentChars(context.GetIndentChars().c_str());
+    writer.SetEOLType(eol);
+    writer.SetSupportRoundtrip(CFormatSettings::Json(context).GetSupportRoundtrip());
+    writer.WriteStartDocument();
+    ToXml_Int(&writer, true, GetNamespace().c_str(), context, false);
+    writer.WriteEndDocument();
+    writer.Close();
+}
+
+std::wstring CXmlObjectBase::ToJson(bool formatted, EOLType eol, const CSerializationContext& context) const
+{
+    CheckVersion();
+    CTextStream stream;
+    WriteJson(stream, formatted, eol, context, false);
+    return std::wstring(stream.GetText(), stream.GetLength());
+}
+
+CBinaryData CXmlObjectBase::ToJsonStream(bool formatted, XmlEncoding encoding, EOLType eol,
+    const CSerializationContext& context, CompressionType compression) const
+{
+    CheckVersion();
+    return EntryPointFiles::Compressed(
+        EntryPointFiles::WriteOctets(
+            encoding, [&](CTextStream& stream) { WriteJson(stream, formatted, eol, context, true); }),
+        compression);
+}
+
+void CXmlObjectBase::ToJsonFile(const wchar_t* fileName, bool formatted, XmlEncoding encoding, EOLType eol,
+    const CSerializationContext& context, CompressionType compression) const
+{
+    CheckVersion();
+    EntryPointFiles::RefuseZLib(compression);
+    if (EntryPointFiles::IsWrittenDirectly(compression)) {
+        CFileTextStream stream(fileName, encoding);
+        WriteJson(stream, formatted, eol, context, false);
+        return;
+    }
+    CBinaryData bytes = ToJsonStream(formatted, encoding, eol, context, compression);
+    EntryPointFiles::WriteWhole(fileName, encoding, compression, bytes);
+}
+
+void CXmlObjectBase::FromJson_Int(const CBinaryData& bytes, const CSerializationContext& context)
+{
+    ReadConverted(bytes, context);
+}
+
+// The octets are let go before the wide text is read.
+void CXmlObjectBase::ReadConverted(CBinaryData bytes, const CSerializationContext& context)
+{
+    std::optional<CFormatSettings::IgnoringNamespaces> scope;
+    if (CFormatSettings::Json(context).GetSupportRoundtrip() != JsonRoundTrip_Full) {
+        // kept: required behaviour. The caller's context is altered for the time of the call.
+        scope.emplace(context);
+    }
+    std::wstring text;
+    try {
+        text = CEncoder::Utf8ToUnicode(bytes);
+        bytes.Clear();
+        FromXml(text.c_str(), context);
+    } catch (const CZrException& exception) {
+        throw CZrException(FormatString(Message::JSON_CONVERSION_FAILED, text.c_str()), std::wstring(), exception);
+    }
+}
+
+void CXmlObjectBase::FromJsonFile(const wchar_t* fileName, const CSerializationContext& context)
+{
+    CheckVersion();
+    ReadConverted(CXmlDocument(context).LoadJsonFile(fileName), context);
+}
+
+void CXmlObjectBase::FromJson(const char* text, const CSerializationContext& context)
+{
+    CheckVersion();
+    ReadConverted(CXmlDocument(context).LoadJson(text), context);
+}
+
+void CXmlObjectBase::FromJson(const wchar_t* text, const CSerializationContext& context)
+{
+    CheckVersion();
+    ReadConverted(CXmlDocument(context).LoadJson(text), context);
+}
+
+void CXmlObjectBase::FromJsonStream(
+    const unsigned char* bytes, unsigned long length, const CSerializationContext& context)
+{
+    CheckVersion();
+    ReadConverted(CXmlDocument(context).LoadJsonStream(bytes, length), context);
+}
+
+void CXmlObjectBase::FromJsonStream(const CBinaryData& bytes, const CSerializationContext& context)
+{
+    FromJsonStream(bytes.GetData(), bytes.GetLength(), context);
+}
+
+} // namespace ZrXmlLib16

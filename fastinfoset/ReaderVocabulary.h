@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#ifndef FASTINFOSET_READERVOCABULARY_H
+#define FASTINFOSET_READERVOCABULARY_H
+
+#include "ZrXmlLib16/FIVocabulary.h"
+
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace ZrXmlLib16 {
+
+class CFastInfosetContext;
+class NameTable;
+struct XmlName;
+
+/// A string table as a reader needs it, from index to text: the table of a generated vocabulary in place, and behind it
+/// what the document adds. Indexes start at 1; nothing is entered beyond 2^20 entries.
+class TextTable {
+public:
+    /// @param base not owned, null for none.
+    explicit TextTable(const CFIVocabulary::CFIStringTable* base);
+
+    /// Null for an index that is not in the table. Valid until the next Add.
+    const std::wstring* Find(std::uint64_t index) const noexcept
+    {
+        const std::uint64_t offset = index - 1; // wraps for 0
+        return offset < m_baseSize ? m_base + offset : FindAdded(offset - m_baseSize);
+    }
+    /// @return the text that was given, in the table or, once that is full, until the next Add.
+    const std::wstring& Add(std::wstring text);
+
+private:
+    const std::wstring* FindAdded(std::uint64_t offset) const noexcept
+    {
+        return offset < m_added.size() ? &m_added[offset] : nullptr;
+    }
+
+    const std::wstring* m_base;
+    std::uint64_t m_baseSize;
+    std::vector<std::wstring> m_added;
+    std::wstring m_unlisted; // the last text that found the table full
+};
+
+/// The tables of one document while it is read. The names of elements and attributes are those of the document
+/// itself, so an index gives a name that nodes can take as it is.
+class ReaderVocabulary {
+public:
+    /// Starts with the context's vocabulary when it is to be used, else with the built-in entries.
+    /// @param context and its vocabulary: not owned, unchanged while this lives.
+    /// @param names of the document, where names are kept.
+    ReaderVocabulary(const CFastInfosetContext& context, NameTable& names);
+    ReaderVocabulary(const ReaderVocabulary&) = delete;
+    ReaderVocabulary& operator=(const ReaderVocabulary&) = delete;
+
+    TextTable& GetPrefixes() noexcept { return m_prefixes; }
+    TextTable& GetNamespaceNames() noexcept { return m_namespaceNames; }
+    TextTable& GetLocalNames() noexcept { return m_localNames; }
+    TextTable& GetAttributeValues() noexcept { return m_attributeValues; }
+    TextTable& GetCharacterChunks() noexcept { return m_characterChunks; }
+
+    /// Null for an index that is not in the table.
+    const XmlName* FindElementName(std::uint64_t index) { return Find(m_elementNames, index); }
+    const XmlName* FindAttributeName(std::uint64_t index) { return Find(m_attributeNames, index); }
+    const XmlName& AddElementName(const std::wstring& namespaceUri, const std::wstring& localName);
+    const XmlName& AddAttributeName(const std::wstring& namespaceUri, const std::wstring& localName);
+
+    /// For its restricted alphabets.
+    const CFIVocabulary& GetAlphabets() const noexcept { return m_generated; }
+
+private:
+    /// The entries of the base are resolved when they are first used: null until then.
+    struct QualifiedNames {
+        explicit QualifiedNames(const CFIVocabulary::CFIQNameTable* baseTable);
+
+        const CFIVocabulary::CFIQNameTable* base;
+        std::vector<const XmlName*> names;
+    };
+
+    ReaderVocabulary(CFIVocabulary& generated, bool isUsed, NameTable& names);
+    const XmlName* Find(QualifiedNames& table, std::uint64_t index)
+    {
+        const std::uint64_t offset = index - 1; // wraps for 0
+        if (offset >= table.names.size()) {
+            return nullptr;
+        }
+        const XmlName* const name = table.names[offset];
+        return name ? name : Resolve(table, index);
+    }
+    const XmlName* Resolve(QualifiedNames& table, std::uint64_t index);
+    const XmlName& Add(QualifiedNames& table, const std::wstring& namespaceUri, const std::wstring& localName);
+
+    const CFIVocabulary& m_generated;
+    NameTable& m_names;
+    TextTable m_prefixes;
+    TextTable m_namespaceNames;
+    TextTable m_localNames;
+    TextTable m_attributeValues;
+    TextTable m_characterChunks;
+    QualifiedNames m_elementNames;
+    QualifiedNames m_attributeNames;
+};
+
+} // namespace ZrXmlLib16
+
+#endif

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#ifndef JSON_JSONNAMES_H
+#define JSON_JSONNAMES_H
+
+#include "ZrXmlLib16/JsonRoundTrip.h"
+
+#include <deque>
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace ZrXmlLib16 {
+
+/// What the name of a JSON member means in XML.
+struct JsonName {
+    enum class Kind : unsigned char {
+        Element,
+        Attribute,
+        Text,   // of the element around it
+        Ignored // a declaration, where namespaces are dropped
+    };
+
+    JsonName(const std::wstring& memberName, JsonRoundTrip mode);
+
+    std::wstring member;
+    std::wstring xmlName; // empty for text
+    Kind kind;
+    bool hasInstancePrefix; // the prefix "xsi"
+};
+
+/// The distinct member names of one document. A name lives as long as the table and never moves.
+///
+/// Documents repeat themselves: the name that followed last time is tried before the search.
+class JsonNames {
+public:
+    explicit JsonNames(JsonRoundTrip mode);
+    JsonNames(const JsonNames&) = delete;
+    JsonNames& operator=(const JsonNames&) = delete;
+
+    const JsonName& Get(const std::wstring& member);
+    /// Whether a name so far has the prefix "xsi".
+    bool UsesInstancePrefix() const { return m_usesInstancePrefix; }
+
+private:
+    struct Entry {
+        Entry(const std::wstring& member, JsonRoundTrip mode)
+            : name(member, mode)
+        {
+        }
+
+        const JsonName name;
+        Entry* follower = nullptr; // the one that came after this one the last time
+    };
+
+    Entry& Search(const std::wstring& member);
+
+    const JsonRoundTrip m_mode;
+    std::deque<Entry> m_entries;
+    std::map<std::wstring_view, Entry*> m_index;
+    Entry* m_previous = nullptr;
+    bool m_usesInstancePrefix = false;
+};
+
+} // namespace ZrXmlLib16
+
+#endif
