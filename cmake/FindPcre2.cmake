@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # PCRE2, the 8-bit library, as Pcre2::Pcre2. From 10.30 on it keeps the state of a search on the heap.
 find_path(Pcre2_INCLUDE_DIR pcre2.h)
-find_library(Pcre2_LIBRARY pcre2-8)
+find_library(Pcre2_LIBRARY NAMES pcre2-8 pcre2-8d)
 
 if(Pcre2_INCLUDE_DIR)
   file(STRINGS "${Pcre2_INCLUDE_DIR}/pcre2.h" version_lines REGEX "^#define PCRE2_(MAJOR|MINOR) +[0-9]+")
