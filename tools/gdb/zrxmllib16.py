@@ -169,20 +169,36 @@ def xml_name(node):
     return "" if not name else qualified(wide(name["namespaceUri"]), wide(name["localName"]))
 
 
+def node_text(text):
+    """Text of a NodeText: 16-bit units, or the wide form that a caller asked for."""
+    if int(text["m_capacity"]) == 0xFFFFFFFF:
+        return wide(text["m_forms"].dereference()["text"])
+    return memory(text["m_units"], 2 * int(text["m_length"])).decode("utf-16-le", "replace")
+
+
+def attributes_of(element):
+    """The attributes stand in a ring; the element knows the last one."""
+    last = element["m_lastAttribute"]
+    attribute = last["m_next"] if last else last
+    while attribute:
+        yield attribute.dereference()
+        attribute = attribute["m_next"] if attribute != last else None
+
+
 def xml_attribute(value):
-    return "%s=%s" % (xml_name(value), quoted(wide(value["m_value"])))
+    return "%s=%s" % (xml_name(value), quoted(node_text(value["m_value"])))
 
 
 def xml_element(value):
     text = "<" + xml_name(value)
-    attributes = list(items_of(value["m_attributes"]))
+    attributes = list(attributes_of(value))
     for attribute in attributes[:MAX_ATTRIBUTES]:
-        text += " " + xml_attribute(attribute.dereference())
+        text += " " + xml_attribute(attribute)
     text += " ...>" if len(attributes) > MAX_ATTRIBUTES else ">"
     children, child = 0, value["m_firstChild"]
     while child:
         children, child = children + 1, child["m_nextSibling"]
-    content = wide(value["m_text"])
+    content = node_text(value["m_text"])
     return text + " %d children" % children + (", text " + quoted(content) if content else "")
 
 
