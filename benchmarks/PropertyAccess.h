@@ -32,7 +32,7 @@ inline void AccessText(bool read, ZrXmlLib16::ZrVariant& value, std::optional<st
 {
     if (!read) {
         if (value.IsValid()) {
-            member = value.GetString();
+            member = value.TakeString();
         } else {
             member.reset();
         }
@@ -59,7 +59,7 @@ template <class E> void AccessEnum(bool read, ZrXmlLib16::ZrVariant& value, std:
 template <class T> void AccessObject(bool read, ZrXmlLib16::ZrVariant& value, ZrXmlLib16::CSmartPtr<T>& member)
 {
     if (!read) {
-        member = static_cast<T*>(value.GetXmlObject().GetPtr());
+        member = ZrXmlLib16::CSmartPtr<T>::Attach(static_cast<T*>(value.TakeXmlObject().Detach()));
     } else if (member) {
         value.SetXmlObject(member);
     }

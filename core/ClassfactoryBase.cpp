@@ -3,15 +3,16 @@
 
 #include "ZrXmlLib16/XmlDocument.h"
 #include "ZrXmlLib16/XmlElement.h"
+#include "xml/NodeAccess.h"
 #include "xml/XmlNamespaces.h"
 
 namespace ZrXmlLib16 {
 
 namespace {
 
-const std::wstring& TypeAttribute(const CXmlElement* element)
+std::wstring TypeAttribute(const CXmlElement* element)
 {
-    return element->GetAttribute(L"type", SCHEMA_INSTANCE_NAMESPACE_URI);
+    return NodeAccess::CopyAttribute(*element, L"type", SCHEMA_INSTANCE_NAMESPACE_URI);
 }
 
 } // namespace
@@ -22,14 +23,14 @@ CClassfactoryBase::~CClassfactoryBase() = default;
 
 std::wstring CClassfactoryBase::GetElementType(CXmlElement* element)
 {
-    const std::wstring& type = TypeAttribute(element);
+    const std::wstring type = TypeAttribute(element);
     const std::wstring::size_type colon = type.find(L':');
     return colon == std::wstring::npos ? type : type.substr(colon + 1);
 }
 
 std::wstring CClassfactoryBase::GetElementTypeNamespaceUri(CXmlElement* element)
 {
-    const std::wstring& type = TypeAttribute(element);
+    const std::wstring type = TypeAttribute(element);
     const std::wstring::size_type colon = type.find(L':');
     if (colon == std::wstring::npos) {
         return element->GetNamespaceURI();

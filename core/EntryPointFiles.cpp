@@ -6,6 +6,7 @@
 #include "ZrXmlLib16/ZrException.h"
 #include "ZrXmlLib16/ZrZip.h"
 #include "core/CoreMessages.h"
+#include "streams/Utf8TextStream.h"
 
 namespace ZrXmlLib16 {
 
@@ -33,6 +34,18 @@ void RefuseZLib(CompressionType compression)
 bool IsWrittenDirectly(CompressionType compression)
 {
     return ASYNC_TOXMLFILE && compression == Compression_None;
+}
+
+CBinaryData WriteOctets(XmlEncoding encoding, const std::function<void(CTextStream&)>& write)
+{
+    if (encoding == Encoding_UTF8) {
+        CUtf8TextStream stream;
+        write(stream);
+        return stream.TakeOctets();
+    }
+    CTextStream stream(encoding);
+    write(stream);
+    return stream.GetEncodedStream();
 }
 
 CBinaryData Compressed(CBinaryData bytes, CompressionType compression)

@@ -6,7 +6,11 @@
 #include "ZrXmlLib16/CompressionType.h"
 #include "ZrXmlLib16/XmlEncoding.h"
 
+#include <functional>
+
 namespace ZrXmlLib16 {
+
+class CTextStream;
 
 /// What the entry points that write files and streams share, whatever the format.
 namespace EntryPointFiles {
@@ -16,6 +20,9 @@ void RefuseZLib(CompressionType compression);
 
 /// Whether a file is written piece by piece instead of as a whole in the end.
 bool IsWrittenDirectly(CompressionType compression);
+
+/// What the function writes, encoded; in UTF-8 it is encoded piece by piece.
+CBinaryData WriteOctets(XmlEncoding encoding, const std::function<void(CTextStream&)>& write);
 
 CBinaryData Compressed(CBinaryData bytes, CompressionType compression);
 

@@ -5,6 +5,7 @@
 #include "ZrXmlLib16/XmlGeneratedClass.h"
 #include "ZrXmlLib16/ZrValidationException.h"
 #include "ZrXmlLib16Data/ElementInfo.h"
+#include "core/ClassTraits.h"
 #include "core/CoreMessages.h"
 #include "core/SeenFlags.h"
 
@@ -60,11 +61,11 @@ bool CXmlGeneratedClass::IsMatchedByNameOnly() const
 }
 
 bool CXmlGeneratedClass::Offer(CElementInfo* record, const CSerializationContext& context, CXmlElement* parent,
-    CXmlElement*& cursor, const std::wstring& target, XmlElementType type)
+    CXmlElement*& cursor, const wchar_t* target, XmlElementType type)
 {
     // A record may run the cursor to the end and then answer that it found nothing.
     CXmlElement* moved = cursor;
-    if (!record->ElementFromXml(context, this, parent, &moved, target.c_str(), type)) {
+    if (!record->ElementFromXml(context, this, parent, &moved, target, type)) {
         return false;
     }
     if (moved != cursor) {
@@ -77,9 +78,10 @@ bool CXmlGeneratedClass::Offer(CElementInfo* record, const CSerializationContext
 CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(
     const CSerializationContext& context, CXmlElement* parent, CXmlElement* cursor, XmlElementType type)
 {
+    CClassTraits traits(*this, GetClassInfo(), *parent);
     CElementInfo** records = GetClassElementInfo();
     const std::size_t count = CountRecords(records);
-    const std::wstring target = GetTargetNamespace();
+    const wchar_t* const target = traits.GetTargetNamespace();
     const bool ignoreUnknown = context.GetIgnoreUnknownElements();
     // With names alone to go by, an element that no record knows can be skipped before a record mistakes it for its own
     // absence.
@@ -125,8 +127,9 @@ CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(
 CXmlElement* CXmlGeneratedClass::ProcessElementChoiceFromXml(const CSerializationContext& context, CXmlElement* parent,
     CXmlElement* cursor, XmlElementType type, bool isOptional)
 {
+    CClassTraits traits(*this, GetClassInfo(), *parent);
     CElementInfo** records = GetClassElementInfo();
-    const std::wstring target = GetTargetNamespace();
+    const wchar_t* const target = traits.GetTargetNamespace();
     CXmlElement* const entry = cursor;
     bool chosen = false;
     for (bool searching = true; searching;) {
@@ -170,9 +173,10 @@ CXmlElement* CXmlGeneratedClass::FinishChoice(const CSerializationContext& conte
 CXmlElement* CXmlGeneratedClass::ProcessElementAllFromXml(
     const CSerializationContext& context, CXmlElement* parent, CXmlElement* cursor, XmlElementType type)
 {
+    CClassTraits traits(*this, GetClassInfo(), *parent);
     CElementInfo** records = GetClassElementInfo();
     const std::size_t count = CountRecords(records);
-    const std::wstring target = GetTargetNamespace();
+    const wchar_t* const target = traits.GetTargetNamespace();
     CXmlElement* const entry = cursor;
     CSeenFlags found(count);
     while (cursor) {
@@ -203,8 +207,8 @@ CXmlElement* CXmlGeneratedClass::ProcessElementAllFromXml(
     return m_satisfied || type == XmlElementType_Element ? cursor : entry;
 }
 
-bool CXmlGeneratedClass::ValidateAll(const CSerializationContext& context, CXmlElement* parent,
-    const std::wstring& target, XmlElementType type, const CSeenFlags& found)
+bool CXmlGeneratedClass::ValidateAll(const CSerializationContext& context, CXmlElement* parent, const wchar_t* target,
+    XmlElementType type, const CSeenFlags& found)
 {
     const bool check = type == XmlElementType_Element && !context.GetIgnoreMissingMandatoryElements();
     CElementInfo** records = GetClassElementInfo();

@@ -10,10 +10,12 @@
 #include "ZrXmlLib16/ZrVariant.h"
 #include "ZrXmlLib16Data/AttributeInfo.h"
 #include "ZrXmlLib16Data/ParentElementInfo.h"
+#include "core/ClassTraits.h"
 #include "core/CoreMessages.h"
 #include "core/DepthGuard.h"
 #include "core/NilAttribute.h"
 #include "core/SeenFlags.h"
+#include "xml/NodeAccess.h"
 
 namespace ZrXmlLib16 {
 
@@ -68,7 +70,7 @@ CXmlElement* CXmlGeneratedClass::ReadContent(
     CXmlElement* element, CXmlElement* cursor, const CSerializationContext& context, bool isOptional)
 {
     ProcessAttributesFromXml(context, element, GetClassInfo()->GetRejectUnknownAttributes());
-    const INillable* nillable = dynamic_cast<const INillable*>(this);
+    const INillable* nillable = CClassTraits(*this, GetClassInfo(), *element).GetNillable();
     if (nillable && nillable->IsNil()) {
         m_satisfied = true;
         return cursor;
@@ -101,9 +103,9 @@ void CXmlGeneratedClass::ReadSimpleContent(const CXmlElement* element)
     }
     ZrVariant value;
     if (info.GetStoreUnparsed()) {
-        value.SetString(element->GetText());
+        value.SetString(NodeAccess::CopyText(*element));
     } else {
-        value.FromString(element->GetText(), info.GetValueType(), CWhitespaceUtils::Rule_None);
+        NodeAccess::ParseText(*element, info.GetValueType(), CWhitespaceUtils::Rule_None, value);
     }
     AccessProperty(info.GetValueProperty(), false, value);
     m_touched = true;
@@ -116,12 +118,13 @@ void CXmlGeneratedClass::ProcessAttributesFromXml(
     const std::size_t count = CountRecords(records);
     CSeenFlags seen(count);
     const bool ownsElement = GetClassInfo()->GetElementType() == XmlElementType_Element;
-    for (CXmlAttribute* attribute : element->GetAttributes()) {
+    for (CXmlAttribute* attribute = NodeAccess::GetFirstAttribute(*element); attribute;
+         attribute = NodeAccess::GetNextAttribute(*element, *attribute)) {
         if (IsDeclaration(context, *attribute)) {
             continue;
         }
         if (attribute->IsNilAttribute()) {
-            INillable* nillable = dynamic_cast<INillable*>(this);
+            INillable* nillable = CClassTraits(*this, GetClassInfo(), *element).GetNillable();
             if (nillable) {
                 nillable->SetNil(ParseNil(*attribute));
                 m_touched = true;

@@ -20,9 +20,10 @@
 namespace ZrXmlLib16 {
 
 void CXmlObjectBase::WriteJson(
-    CTextStream& stream, bool formatted, EOLType eol, const CSerializationContext& context) const
+    CTextStream& stream, bool formatted, EOLType eol, const CSerializationContext& context, bool isInMemory) const
 {
     CJsonTextWriter writer(stream);
+    writer.m_flushesOften = isInMemory;
     writer.Open();
     writer.SetFormat(formatted);
     writer.SetIndentChars(context.GetIndentChars().c_str());
@@ -38,7 +39,7 @@ std::wstring CXmlObjectBase::ToJson(bool formatted, EOLType eol, const CSerializ
 {
     CheckVersion();
     CTextStream stream;
-    WriteJson(stream, formatted, eol, context);
+    WriteJson(stream, formatted, eol, context, false);
     return std::wstring(stream.GetText(), stream.GetLength());
 }
 
@@ -46,9 +47,10 @@ CBinaryData CXmlObjectBase::ToJsonStream(bool formatted, XmlEncoding encoding, E
     const CSerializationContext& context, CompressionType compression) const
 {
     CheckVersion();
-    CTextStream stream(encoding);
-    WriteJson(stream, formatted, eol, context);
-    return EntryPointFiles::Compressed(stream.GetEncodedStream(), compression);
+    return EntryPointFiles::Compressed(
+        EntryPointFiles::WriteOctets(
+            encoding, [&](CTextStream& stream) { WriteJson(stream, formatted, eol, context, true); }),
+        compression);
 }
 
 void CXmlObjectBase::ToJsonFile(const wchar_t* fileName, bool formatted, XmlEncoding encoding, EOLType eol,
@@ -58,7 +60,7 @@ void CXmlObjectBase::ToJsonFile(const wchar_t* fileName, bool formatted, XmlEnco
     EntryPointFiles::RefuseZLib(compression);
     if (EntryPointFiles::IsWrittenDirectly(compression)) {
         CFileTextStream stream(fileName, encoding);
-        WriteJson(stream, formatted, eol, context);
+        WriteJson(stream, formatted, eol, context, false);
         return;
     }
     CBinaryData bytes = ToJsonStream(formatted, encoding, eol, context, compression);

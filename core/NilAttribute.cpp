@@ -6,6 +6,7 @@
 #include "ZrXmlLib16/XmlAttribute.h"
 #include "ZrXmlLib16/ZrValidationException.h"
 #include "core/CoreMessages.h"
+#include "xml/NodeAccess.h"
 
 namespace ZrXmlLib16 {
 
@@ -31,12 +32,14 @@ bool EqualsIgnoringCase(const std::wstring& text, const wchar_t* lowerCase)
 
 bool IsNilFalse(const CXmlAttribute& attribute)
 {
-    return EqualsIgnoringCase(attribute.GetValue(), L"false") || attribute.GetValue() == L"0";
+    const std::wstring& value = NodeAccess::GetValue(attribute);
+    return EqualsIgnoringCase(value, L"false") || value == L"0";
 }
 
 bool ParseNil(const CXmlAttribute& attribute)
 {
-    if (EqualsIgnoringCase(attribute.GetValue(), L"true") || attribute.GetValue() == L"1") {
+    const std::wstring& value = NodeAccess::GetValue(attribute);
+    if (EqualsIgnoringCase(value, L"true") || value == L"1") {
         return true;
     }
     if (IsNilFalse(attribute)) {

@@ -7,11 +7,12 @@
 #include "core/CoreMessages.h"
 
 #include <memory>
+#include <utility>
 
 namespace ZrXmlLib16 {
 
-CXmlCollection::CNode::CNode(CXmlObjectBase* item)
-    : m_item(item)
+CXmlCollection::CNode::CNode(CSmartPtr<CXmlObjectBase> item)
+    : m_item(std::move(item))
     , m_next(nullptr)
     , m_previous(nullptr)
 {
@@ -93,14 +94,15 @@ CXmlCollection::CNode* CXmlCollection::RequireNode(const CXmlObjectBase* item) c
 }
 
 /// Inserts in front of a node, or at the end for null.
-CXmlCollection::CNode* CXmlCollection::Insert(CXmlObjectBase* item, CNode* before)
+CXmlCollection::CNode* CXmlCollection::Insert(CSmartPtr<CXmlObjectBase> inserted, CNode* before)
 {
+    CXmlObjectBase* const item = inserted;
     if (!item) {
         throw CZrInvalidParamException(Message::ITEM_IS_NULL);
     }
     CheckItem(*item);
     // The node holds the item before anybody is told, so that a listener's own reference cannot be the last one.
-    std::unique_ptr<CNode> created(new CNode(item));
+    std::unique_ptr<CNode> created(new CNode(std::move(inserted)));
     const unsigned long changes = m_changes;
     FireOnCollectionAdd(item);
     RequireUnchanged(changes);

@@ -8,6 +8,8 @@
 #include "ZrXmlLib16/ZrValidationException.h"
 #include "core/CoreMessages.h"
 
+#include <utility>
+
 namespace ZrXmlLib16 {
 
 using ZrXmlLib16Data::XmlElementType_Element;
@@ -37,9 +39,9 @@ CXmlElement* CXmlCollection::FromXml_Int(
 CXmlElement* CXmlCollection::ReadElements(CXmlElement* cursor, const CSerializationContext& context)
 {
     while (cursor && DoesElementNameMatch(context, cursor, ElementName(), Namespace())) {
-        const CSmartPtr<CXmlObjectBase> item = RequireItem(cursor);
+        CSmartPtr<CXmlObjectBase> item = RequireItem(cursor);
         CXmlObjectBase::FromXml_Int(item, cursor, cursor->GetFirstElement(), context);
-        AppendItem(item);
+        Insert(std::move(item), nullptr);
         cursor = cursor->GetNextSiblingElement();
     }
     return cursor;
@@ -50,13 +52,13 @@ CXmlElement* CXmlCollection::ReadInlineItems(
     CXmlElement* parent, CXmlElement* cursor, const CSerializationContext& context)
 {
     for (;;) {
-        const CSmartPtr<CXmlObjectBase> item = RequireItem(parent);
+        CSmartPtr<CXmlObjectBase> item = RequireItem(parent);
         CXmlElement* next = CXmlObjectBase::FromXml_Int(item, parent, cursor, context);
         const CXmlGeneratedClass* generated = dynamic_cast<const CXmlGeneratedClass*>(item.GetPtr());
         if (next == cursor || (generated && !generated->m_satisfied)) {
             return cursor;
         }
-        AppendItem(item);
+        Insert(std::move(item), nullptr);
         cursor = next;
     }
 }

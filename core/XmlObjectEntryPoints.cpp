@@ -44,9 +44,10 @@ CBinaryData CXmlObjectBase::ToXmlStream(bool includeHeader, bool formatted, XmlE
     const CSerializationContext& context, CompressionType compression) const
 {
     CheckVersion();
-    CTextStream stream(encoding);
-    WriteDocument(stream, includeHeader, formatted, eol, context);
-    return EntryPointFiles::Compressed(stream.GetEncodedStream(), compression);
+    return EntryPointFiles::Compressed(
+        EntryPointFiles::WriteOctets(
+            encoding, [&](CTextStream& stream) { WriteDocument(stream, includeHeader, formatted, eol, context); }),
+        compression);
 }
 
 void CXmlObjectBase::ToXmlFile(const wchar_t* fileName, bool includeHeader, bool formatted, XmlEncoding encoding,

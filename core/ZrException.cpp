@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "ZrXmlLib16/ZrException.h"
 
+#include "core/CoreMessages.h"
+
 namespace ZrXmlLib16 {
 
 namespace {
 
-constexpr wchar_t PATH_SUFFIX[] = L"\nPath: ";
-
 std::wstring WithPath(const std::wstring& message, const std::wstring& path)
 {
-    return path.empty() ? message : message + PATH_SUFFIX + path;
+    return path.empty() ? message : message + Message::PATH_SUFFIX + path;
 }
 
 } // namespace

@@ -26,7 +26,7 @@ public:
         }
         for (std::size_t i = alphabet.size(); i-- > 0;) {
             if (IsAscii(alphabet[i])) {
-                m_asciiPositions[alphabet[i]] = static_cast<unsigned char>(i);
+                m_asciiPositions[static_cast<std::size_t>(alphabet[i])] = static_cast<unsigned char>(i);
             }
         }
     }
@@ -35,20 +35,18 @@ public:
     /// @throws CZrException for a character that is not in the alphabet.
     void Pack(const std::wstring& text, std::vector<unsigned char>& octets) const
     {
-        octets.clear();
         if (m_bits == 8) {
-            for (const wchar_t character : text) {
-                octets.push_back(PositionOf(character));
+            octets.resize(text.size());
+            for (std::size_t i = 0; i < text.size(); ++i) {
+                octets[i] = static_cast<unsigned char>(PositionOf(text[i]));
             }
             return;
         }
-        const std::size_t pairs = text.size() / 2;
-        for (std::size_t i = 0; i < pairs; ++i) {
+        octets.resize((text.size() + 1) / 2);
+        for (std::size_t i = 0; i < octets.size(); ++i) {
             const unsigned int high = PositionOf(text[2 * i]);
-            octets.push_back(static_cast<unsigned char>(high << 4 | PositionOf(text[2 * i + 1])));
-        }
-        if (text.size() % 2 != 0) {
-            octets.push_back(static_cast<unsigned char>(PositionOf(text.back()) << 4 | FILLER));
+            const unsigned int low = 2 * i + 1 < text.size() ? PositionOf(text[2 * i + 1]) : FILLER;
+            octets[i] = static_cast<unsigned char>(high << 4 | low);
         }
     }
 
@@ -73,17 +71,17 @@ private:
         return bits;
     }
 
-    unsigned char PositionOf(wchar_t character) const
+    unsigned int PositionOf(wchar_t character) const
     {
         if (IsAscii(character)) {
-            const unsigned char position = m_asciiPositions[character];
+            const unsigned char position = m_asciiPositions[static_cast<std::size_t>(character)];
             if (position != NOT_THERE) {
                 return position;
             }
         } else {
             const std::size_t position = m_alphabet.find(character);
             if (position != std::wstring::npos) {
-                return static_cast<unsigned char>(position);
+                return static_cast<unsigned int>(position);
             }
         }
         throw CZrException(Message::CHARACTER_NOT_IN_ALPHABET);

@@ -3,7 +3,7 @@
 
 #include "ZrXmlLib16/Encoder.h"
 #include "ZrXmlLib16/FIVocabulary.h"
-#include "ZrXmlLib16/FastInfosetBinaryData.h"
+#include "fastinfoset/EncodingAlgorithms.h"
 #include "streams/Utf8Decoding.h"
 #include "xml/Utf16Text.h"
 
@@ -53,13 +53,6 @@ void AppendOctets(std::wstring& text, OctetString content, const std::wstring& a
     }
 }
 
-std::wstring DecodeAlgorithm(OctetString content, unsigned algorithm)
-{
-    // The octets are copied, not written to.
-    const CFastInfosetBinaryData data(const_cast<unsigned char*>(content.octets), content.length, false);
-    return data.GetAsString(algorithm);
-}
-
 } // namespace
 
 EncodedString ReadEncodedStringOnBit3(OctetReader& input, unsigned char first)
@@ -98,7 +91,7 @@ void AppendEncodedString(std::wstring& text, const EncodedString& string, const 
         AppendRestrictedAlphabet(text, content, vocabulary.GetRestrictedAlphabet(string.number));
         break;
     case EncodedString::EncodingAlgorithm:
-        text += DecodeAlgorithm(content, string.number);
+        EncodingAlgorithms::AppendDecoded(string.number, content.octets, content.length, text);
         break;
     }
 }

@@ -80,6 +80,7 @@ constexpr Table TABLES[] = {
     {0x0001, SkipNameSurrogate}, // attribute names
 };
 
+// kept: required behaviour. A transmitted vocabulary is not used, and the name of an external one is not compared.
 void SkipInitialVocabulary(OctetReader& input)
 {
     const unsigned high = input.Fetch();

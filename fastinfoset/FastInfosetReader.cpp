@@ -11,17 +11,17 @@
 #include "fastinfoset/OctetReader.h"
 #include "fastinfoset/ReaderVocabulary.h"
 #include "fastinfoset/SkippedItems.h"
+#include "streams/Utf8Decoding.h"
 #include "xml/DocumentStorage.h"
+#include "xml/NodeAccess.h"
 
-#include <algorithm>
+#include <cstring>
+#include <utility>
+#include <vector>
 
 namespace ZrXmlLib16 {
 
 namespace {
-
-constexpr wchar_t CARRIAGE_RETURN = 13;
-/// What the smallest block of memory has room for.
-constexpr std::size_t FIRST_ATTRIBUTES = 3;
 
 constexpr unsigned char NOT_AN_ELEMENT = 0x80;
 constexpr unsigned char NOT_A_CHUNK = 0xC0;
@@ -71,18 +71,18 @@ template <class T> const T& RequireEntry(const T* found, const wchar_t* message)
     return *found;
 }
 
-/// Applies the rule of all element text, CXmlDocument::AppendTextExcludingCR, to what was appended.
-void TidyChunk(std::wstring& text, std::size_t before)
+/// Element text ends at the first NUL, see CXmlDocument::AppendTextExcludingCR.
+OctetString UpToNul(OctetString content)
 {
-    bool isTidy = true;
-    for (std::size_t i = before; i < text.size(); ++i) {
-        const bool isKept = text[i] != CARRIAGE_RETURN && text[i] != L'\0';
-        isTidy &= isKept;
-    }
-    if (!isTidy) {
-        const auto begin = text.begin() + static_cast<std::ptrdiff_t>(before);
-        text.erase(std::remove(begin, std::find(begin, text.end(), L'\0'), CARRIAGE_RETURN), text.end());
-    }
+    const void* const nul = std::memchr(content.octets, 0, content.length);
+    return nul ? OctetString{content.octets,
+               static_cast<unsigned long>(static_cast<const unsigned char*>(nul) - content.octets)}
+               : content;
+}
+
+std::wstring Widen(const std::vector<Utf16Unit>& units, std::size_t count)
+{
+    return std::wstring(units.data(), units.data() + count);
 }
 
 } // namespace
@@ -104,6 +104,7 @@ private:
     void ReadAttributeValue(CXmlElement& element, const XmlName& name);
     void ReadChunk(unsigned char first);
     void ReadIndexedChunk(CXmlElement& element, std::uint64_t index);
+    std::size_t DecodeUnits(OctetString content);
 
     const XmlName& ReadElementName(unsigned char first);
     const XmlName& ReadAttributeName(unsigned char first);
@@ -115,13 +116,14 @@ private:
     const std::wstring& ReadIdentifyingString(TextTable& table);
 
     void CountIndexedText(const std::wstring& text);
-    std::uint64_t GetIndexedTextLimit() const;
 
     CXmlDocument& m_document;
     OctetReader m_input;
-    const unsigned long m_inputLength;
     ReaderVocabulary m_vocabulary;
-    std::uint64_t m_indexedText = 0; // characters that came into the document through an index
+    const unsigned long m_indexedTextLimit;
+    unsigned long m_indexedText = 0; // characters that came into the document through an index
+    std::vector<Utf16Unit> m_units;  // the literal that is being decoded
+    std::wstring m_text;             // the same for encodings other than UTF-8
 };
 
 CFastInfosetReader::CFastInfosetReader(const CFastInfosetContext& context, CXmlDocument& document)
@@ -166,8 +168,8 @@ bool CFastInfosetReader::Parse()
 CFastInfosetReader::Decoder::Decoder(const CFastInfosetContext& context, CXmlDocument& document, OctetString input)
     : m_document(document)
     , m_input(input.octets, input.length)
-    , m_inputLength(input.length)
     , m_vocabulary(context, document.GetStorage().GetNames())
+    , m_indexedTextLimit(CFormatSettings::MaximumExpansion(document.GetSerializationContext(), input.length))
 {
 }
 
@@ -263,7 +265,6 @@ void CFastInfosetReader::Decoder::ReadNamespaceAttributes()
 
 void CFastInfosetReader::Decoder::ReadAttributes(CXmlElement& element)
 {
-    element.m_attributes.reserve(FIRST_ATTRIBUTES);
     unsigned char octet = m_input.Fetch();
     for (; octet < NOT_AN_ATTRIBUTE; octet = m_input.Fetch()) {
         ReadAttributeValue(element, ReadAttributeName(octet));
@@ -281,20 +282,30 @@ void CFastInfosetReader::Decoder::ReadAttributeValue(CXmlElement& element, const
     if (first & INDEX_ON_BIT_1) {
         const std::uint64_t index = m_input.ReadIntegerOrZeroOnBit2(first);
         if (index == 0) {
-            element.AddParsedAttribute(name);
+            element.AddNamedAttribute(name, std::wstring());
             return;
         }
         const std::wstring& value = RequireEntry(
             m_vocabulary.GetAttributeValues().Find(index), FastInfosetReaderMessages::INVALID_INTEGER_OR_ZERO_ON_BIT_2);
         CountIndexedText(value);
-        element.AddParsedAttribute(name) = value;
+        element.AddNamedAttribute(name, value);
         return;
     }
     const EncodedString literal = ReadEncodedStringOnBit3(m_input, first);
-    std::wstring& value = element.AddParsedAttribute(name);
-    AppendEncodedString(value, literal, m_vocabulary.GetAlphabets());
-    if (first & ADD_ON_BIT_2) {
-        m_vocabulary.GetAttributeValues().Add(value);
+    const bool isAdded = first & ADD_ON_BIT_2;
+    if (literal.encoding == EncodedString::Utf8) {
+        const std::size_t count = DecodeUnits(literal.content);
+        element.AddParsedAttribute(name, m_units.data(), count);
+        if (isAdded) {
+            m_vocabulary.GetAttributeValues().Add(Widen(m_units, count));
+        }
+        return;
+    }
+    m_text.clear();
+    AppendEncodedString(m_text, literal, m_vocabulary.GetAlphabets());
+    element.AddNamedAttribute(name, m_text);
+    if (isAdded) {
+        m_vocabulary.GetAttributeValues().Add(m_text);
     }
 }
 
@@ -306,12 +317,21 @@ void CFastInfosetReader::Decoder::ReadChunk(unsigned char first)
         return;
     }
     const EncodedString literal = ReadEncodedStringOnBit5(m_input, first);
-    const std::size_t before = element.m_text.size();
-    AppendEncodedString(element.m_text, literal, m_vocabulary.GetAlphabets());
-    if (first & ADD_ON_BIT_4) {
-        m_vocabulary.GetCharacterChunks().Add(element.m_text.substr(before));
+    const bool isAdded = first & ADD_ON_BIT_4;
+    if (literal.encoding == EncodedString::Utf8) {
+        const std::size_t count = DecodeUnits(UpToNul(literal.content));
+        NodeAccess::AppendUnits(element, m_units.data(), count);
+        if (isAdded) {
+            m_vocabulary.GetCharacterChunks().Add(Widen(m_units, count));
+        }
+        return;
     }
-    TidyChunk(element.m_text, before);
+    m_text.clear();
+    AppendEncodedString(m_text, literal, m_vocabulary.GetAlphabets());
+    if (isAdded) {
+        m_vocabulary.GetCharacterChunks().Add(m_text);
+    }
+    m_document.AppendTextExcludingCR(&element, m_text);
 }
 
 void CFastInfosetReader::Decoder::ReadIndexedChunk(CXmlElement& element, std::uint64_t index)
@@ -319,9 +339,16 @@ void CFastInfosetReader::Decoder::ReadIndexedChunk(CXmlElement& element, std::ui
     const std::wstring& text = RequireEntry(
         m_vocabulary.GetCharacterChunks().Find(index), FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_4);
     CountIndexedText(text);
-    const std::size_t before = element.m_text.size();
-    element.AppendText(text);
-    TidyChunk(element.m_text, before);
+    m_document.AppendTextExcludingCR(&element, text);
+}
+
+/// Decodes UTF-8 into m_units. @return the number of units.
+std::size_t CFastInfosetReader::Decoder::DecodeUnits(OctetString content)
+{
+    if (m_units.size() < content.length) {
+        m_units.resize(content.length);
+    }
+    return static_cast<std::size_t>(DecodeUtf8(content.octets, content.length, m_units.data()) - m_units.data());
 }
 
 const XmlName& CFastInfosetReader::Decoder::ReadElementName(unsigned char first)
@@ -380,16 +407,9 @@ const std::wstring& CFastInfosetReader::Decoder::ReadIdentifyingString(TextTable
 void CFastInfosetReader::Decoder::CountIndexedText(const std::wstring& text)
 {
     m_indexedText += text.size();
-    if (m_indexedText > GetIndexedTextLimit()) {
-        throw CZrException(FormatString(
-            FastInfosetReaderMessages::TOO_MUCH_INDEXED_TEXT, static_cast<unsigned long>(GetIndexedTextLimit())));
+    if (m_indexedText > m_indexedTextLimit) {
+        throw CZrException(FormatString(FastInfosetReaderMessages::TOO_MUCH_INDEXED_TEXT, m_indexedTextLimit));
     }
-}
-
-/// In characters.
-std::uint64_t CFastInfosetReader::Decoder::GetIndexedTextLimit() const
-{
-    return CFormatSettings::MaximumExpansion(m_document.GetSerializationContext(), m_inputLength);
 }
 
 } // namespace ZrXmlLib16

@@ -2,8 +2,8 @@
 #ifndef FASTINFOSET_FASTINFOSETREADERMESSAGES_H
 #define FASTINFOSET_FASTINFOSETREADERMESSAGES_H
 
-/// Every fixed text of the Fast Infoset reader, with its arguments. Where two spaces stand before "on", they belong
-/// there.
+/// Every fixed text of the Fast Infoset reader, with its arguments.
+// kept: required behaviour. In six of them two spaces stand before "on".
 namespace ZrXmlLib16 {
 namespace FastInfosetReaderMessages {
 

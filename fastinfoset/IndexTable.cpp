@@ -1,86 +1,132 @@
 // SPDX-License-Identifier: MIT
 #include "fastinfoset/IndexTable.h"
 
+#include "values/Int128.h"
+
+#include <algorithm>
 #include <cstring>
-#include <cwchar>
-#include <utility>
 
 namespace ZrXmlLib16 {
 
 namespace {
 
-constexpr std::size_t FIRST_CAPACITY = 128;
-constexpr std::size_t FIRST_TEXT_CAPACITY = 512;
-constexpr std::uint64_t MULTIPLIER = 0x9E3779B97F4A7C15;
+constexpr std::size_t TEXT_CAPACITY = 16384;
+constexpr std::uint64_t SEED = 0x9E3779B97F4A7C15;
+constexpr std::uint64_t MULTIPLIER = 0xD6E8FEB86659FD93;
 
-std::uint64_t Mix(std::uint64_t hash, std::uint64_t bits)
+std::uint64_t LoadPair(const wchar_t* text)
 {
-    hash = (hash ^ bits) * MULTIPLIER;
-    return hash ^ hash >> 32;
+    std::uint64_t characters;
+    static_assert(sizeof characters == 2 * sizeof(wchar_t), "wide characters have four octets");
+    std::memcpy(&characters, text, sizeof characters);
+    return characters;
 }
 
-std::uint32_t Hash(std::uint32_t space, const std::wstring& text)
+std::uint64_t MultiplyAndFold(std::uint64_t left, std::uint64_t right)
+{
+    const UInt128 product = UInt128{left} * right;
+    return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
+}
+
+/// Takes four characters at a time; the last four overlap those before them.
+std::uint64_t HashText(std::wstring_view text)
 {
     const wchar_t* position = text.data();
-    std::size_t rest = text.size();
-    std::uint64_t hash = Mix(space, rest);
-    for (; rest >= 2; rest -= 2, position += 2) {
-        std::uint64_t characters;
-        static_assert(sizeof characters == 2 * sizeof(wchar_t), "wide characters have four octets");
-        std::memcpy(&characters, position, sizeof characters);
-        hash = Mix(hash, characters);
+    const std::size_t length = text.size();
+    std::uint64_t hash = SEED ^ length;
+    if (length >= 4) {
+        const wchar_t* const last = position + length - 4;
+        for (; position < last; position += 4) {
+            hash = MultiplyAndFold(LoadPair(position) ^ hash, LoadPair(position + 2) ^ MULTIPLIER);
+        }
+        return MultiplyAndFold(LoadPair(last) ^ hash, LoadPair(last + 2) ^ MULTIPLIER);
     }
-    if (rest != 0) {
-        hash = Mix(hash, static_cast<std::uint32_t>(*position));
+    if (length >= 2) {
+        return MultiplyAndFold(LoadPair(position) ^ hash, LoadPair(position + length - 2) ^ MULTIPLIER);
     }
-    return static_cast<std::uint32_t>(hash);
+    return length == 0 ? hash : MultiplyAndFold(static_cast<std::uint32_t>(*position) ^ hash, MULTIPLIER);
+}
+
+// Most texts are shorter than the call of a library function takes.
+bool AreEqual(const wchar_t* left, const wchar_t* right, std::size_t n)
+{
+    std::size_t i = 0;
+    for (; i + 2 <= n; i += 2) {
+        if (LoadPair(left + i) != LoadPair(right + i)) {
+            return false;
+        }
+    }
+    return i == n || left[i] == right[i];
 }
 
 } // namespace
 
 IndexTable::Key::Key(std::uint32_t space, const std::wstring& text)
     : m_text(text)
-    , m_space(space)
-    , m_hash(Hash(space, text))
+    , m_textHash(HashText(m_text))
+    , m_isStored(false)
 {
+    Place(space);
+}
+
+IndexTable::Key IndexTable::Key::InSpace(std::uint32_t space) const
+{
+    Key key(*this);
+    key.Place(space);
+    return key;
+}
+
+void IndexTable::Key::Place(std::uint32_t space)
+{
+    m_space = space;
+    m_hash = static_cast<std::uint32_t>((m_textHash + space) * MULTIPLIER >> 32);
 }
 
 IndexTable::IndexTable()
-    : m_slots(FIRST_CAPACITY)
+    : m_slots(m_firstSlots)
+    , m_capacity(FIRST_CAPACITY)
     , m_taken(0)
+    , m_textPosition(m_firstTexts)
+    , m_textCapacity(FIRST_TEXT_CAPACITY)
+    , m_firstSlots{}
 {
-    m_texts.reserve(FIRST_TEXT_CAPACITY);
 }
 
-std::uint32_t IndexTable::Find(const Key& key) const
+std::uint32_t IndexTable::Find(Key& key) const
 {
-    const std::size_t mask = m_slots.size() - 1;
+    const std::size_t mask = m_capacity - 1;
     for (std::size_t position = key.m_hash & mask;; position = (position + 1) & mask) {
         const Slot& slot = m_slots[position];
         if (slot.index == 0) {
             return 0;
         }
         if (slot.hash == key.m_hash && slot.space == key.m_space && slot.textLength == key.m_text.size()
-            && std::wmemcmp(m_texts.data() + slot.textBegin, key.m_text.data(), slot.textLength) == 0) {
+            && AreEqual(slot.text, key.m_text.data(), slot.textLength)) {
+            key.m_text = {slot.text, slot.textLength};
+            key.m_isStored = true;
             return slot.index;
         }
     }
 }
 
-void IndexTable::Insert(const Key& key, std::uint32_t index)
+void IndexTable::Insert(Key& key, std::uint32_t index)
 {
-    if (2 * (m_taken + 1) > m_slots.size()) {
+    if (2 * (m_taken + 1) > m_capacity) {
         Grow();
     }
-    const std::size_t textBegin = m_texts.size();
-    m_texts.append(key.m_text);
-    FreeSlot(key.m_hash) = {textBegin, key.m_text.size(), key.m_hash, key.m_space, index};
+    if (!key.m_isStored) {
+        key.m_text = Store(key.m_text);
+        key.m_isStored = true;
+    }
+    // A text of more than 32 bits of characters is never found again.
+    const auto length = static_cast<std::uint32_t>(key.m_text.size());
+    FreeSlot(key.m_hash) = {key.m_text.data(), length, key.m_hash, key.m_space, index};
     ++m_taken;
 }
 
 IndexTable::Slot& IndexTable::FreeSlot(std::uint32_t hash)
 {
-    const std::size_t mask = m_slots.size() - 1;
+    const std::size_t mask = m_capacity - 1;
     std::size_t position = hash & mask;
     while (m_slots[position].index != 0) {
         position = (position + 1) & mask;
@@ -90,13 +136,32 @@ IndexTable::Slot& IndexTable::FreeSlot(std::uint32_t hash)
 
 void IndexTable::Grow()
 {
-    std::vector<Slot> previous(2 * m_slots.size());
-    previous.swap(m_slots);
-    for (const Slot& slot : previous) {
-        if (slot.index != 0) {
-            FreeSlot(slot.hash) = slot;
+    const Slot* const previous = m_slots;
+    const Slot* const previousEnd = m_slots + m_capacity;
+    std::unique_ptr<Slot[]> grown(new Slot[2 * m_capacity]());
+    m_slots = grown.get();
+    m_capacity *= 2;
+    for (const Slot* slot = previous; slot != previousEnd; ++slot) {
+        if (slot->index != 0) {
+            FreeSlot(slot->hash) = *slot;
         }
     }
+    m_grownSlots.swap(grown);
+}
+
+std::wstring_view IndexTable::Store(std::wstring_view text)
+{
+    if (text.size() > m_textCapacity) {
+        const std::size_t capacity = std::max(text.size(), TEXT_CAPACITY);
+        m_moreTexts.emplace_back(new wchar_t[capacity]);
+        m_textPosition = m_moreTexts.back().get();
+        m_textCapacity = capacity;
+    }
+    std::copy(text.begin(), text.end(), m_textPosition);
+    const std::wstring_view stored(m_textPosition, text.size());
+    m_textPosition += text.size();
+    m_textCapacity -= text.size();
+    return stored;
 }
 
 } // namespace ZrXmlLib16

@@ -4,40 +4,55 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ZrXmlLib16 {
 
 /// Hash table from texts to indexes. Each text belongs to a numbered space, so that one table serves all vocabulary
-/// tables of a document and a small document pays for one only. The texts are copied. Entries are never removed.
+/// tables of a document. The texts are copied. Entries are never removed. What a small document needs is part of the
+/// object.
 class IndexTable {
 public:
+    /// A text in a space. It refers to the caller's text until it was found or inserted, then to the table's copy.
     class Key {
     public:
-        /// @param text borrowed.
         Key(std::uint32_t space, const std::wstring& text);
+        /// The same text in another space.
+        Key InSpace(std::uint32_t space) const;
+        std::wstring_view GetText() const { return m_text; }
 
     private:
         friend class IndexTable;
 
-        const std::wstring& m_text;
+        void Place(std::uint32_t space);
+
+        std::wstring_view m_text;
+        std::uint64_t m_textHash;
         std::uint32_t m_space;
         std::uint32_t m_hash;
+        bool m_isStored;
     };
 
     IndexTable();
+    IndexTable(const IndexTable&) = delete;
+    IndexTable& operator=(const IndexTable&) = delete;
 
     /// 0 when the key is not there.
-    std::uint32_t Find(const Key& key) const;
+    std::uint32_t Find(Key& key) const;
     /// @param key must not be there yet.
     /// @param index not 0.
-    void Insert(const Key& key, std::uint32_t index);
+    void Insert(Key& key, std::uint32_t index);
 
 private:
+    static constexpr std::size_t FIRST_CAPACITY = 256;
+    static constexpr std::size_t FIRST_TEXT_CAPACITY = 1024;
+
     struct Slot {
-        std::size_t textBegin;
-        std::size_t textLength;
+        const wchar_t* text;
+        std::uint32_t textLength;
         std::uint32_t hash;
         std::uint32_t space;
         std::uint32_t index; // 0: the slot is free
@@ -45,10 +60,17 @@ private:
 
     Slot& FreeSlot(std::uint32_t hash);
     void Grow();
+    std::wstring_view Store(std::wstring_view text);
 
-    std::vector<Slot> m_slots; // a power of two, at most half of them taken
+    Slot* m_slots;
+    std::size_t m_capacity; // a power of two, at least twice as many as are taken
     std::size_t m_taken;
-    std::wstring m_texts; // all of them, one after the other
+    std::unique_ptr<Slot[]> m_grownSlots;
+    wchar_t* m_textPosition; // of the next text
+    std::size_t m_textCapacity;
+    std::vector<std::unique_ptr<wchar_t[]>> m_moreTexts;
+    Slot m_firstSlots[FIRST_CAPACITY];
+    wchar_t m_firstTexts[FIRST_TEXT_CAPACITY];
 };
 
 } // namespace ZrXmlLib16

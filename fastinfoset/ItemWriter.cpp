@@ -57,10 +57,14 @@ ItemWriter::ItemWriter(const CFastInfosetContext& context, OctetWriter& octets)
 
 void ItemWriter::WriteIdentifyingString(VocabularyTable table, const std::wstring& text)
 {
+    WriteIdentifyingString(m_vocabulary.FindOrAdd(table, text), text);
+}
+
+void ItemWriter::WriteIdentifyingString(unsigned long index, const std::wstring& text)
+{
     if (text.empty()) {
         throw CZrException(Message::NAME_EMPTY);
     }
-    const unsigned long index = m_vocabulary.FindOrAdd(table, text);
     if (index != 0) {
         m_octets.PutCode(INTEGER_ON_BIT_2, index, IDENTIFYING_INDEX);
     } else {
@@ -83,9 +87,10 @@ void ItemWriter::WriteAttributeName(
 void ItemWriter::WriteName(const NameForm& form, unsigned int leadingBits, const std::wstring& prefix,
     const std::wstring& namespaceUri, const std::wstring& localName)
 {
-    const unsigned long index = m_vocabulary.FindOrAddName(form.table, prefix, namespaceUri, localName);
-    if (index != 0) {
-        m_octets.PutCode(form.indexCodec, index, leadingBits);
+    const WriterVocabulary::NameIndexes indexes =
+        m_vocabulary.FindOrAddName(form.table, prefix, namespaceUri, localName);
+    if (indexes.name != 0) {
+        m_octets.PutCode(form.indexCodec, indexes.name, leadingBits);
         return;
     }
     const unsigned int parts = !prefix.empty() ? PREFIX_AND_NAMESPACE_FOLLOW
@@ -93,12 +98,12 @@ void ItemWriter::WriteName(const NameForm& form, unsigned int leadingBits, const
                                                : 0;
     m_octets.Put(leadingBits | form.literalBits | parts);
     if (!prefix.empty()) {
-        WriteIdentifyingString(VocabularyTable::PrefixNames, prefix);
+        WriteIdentifyingString(indexes.prefix, prefix);
     }
     if (!namespaceUri.empty()) {
-        WriteIdentifyingString(VocabularyTable::NamespaceNames, namespaceUri);
+        WriteIdentifyingString(indexes.namespaceName, namespaceUri);
     }
-    WriteIdentifyingString(VocabularyTable::LocalNames, localName);
+    WriteIdentifyingString(indexes.localName, localName);
 }
 
 void ItemWriter::WriteAttributeValue(const std::wstring& value, ItemType type)

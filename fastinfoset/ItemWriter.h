@@ -48,6 +48,7 @@ private:
     static const ValueForm CHARACTER_CHUNK;
     static constexpr unsigned long ALPHABET_COUNT = 2;
 
+    void WriteIdentifyingString(unsigned long index, const std::wstring& text);
     void WriteName(const NameForm& form, unsigned int leadingBits, const std::wstring& prefix,
         const std::wstring& namespaceUri, const std::wstring& localName);
     void WriteValue(const ValueForm& form, const std::wstring& text, unsigned long maximumAddLength, ItemType type);

@@ -16,7 +16,7 @@ namespace {
 constexpr unsigned long PIECE_LENGTH = 1024;
 
 /// Writes one octet per character, whatever the characters are. @return whether they were all ASCII.
-bool NarrowAscii(const wchar_t* text, unsigned long n, unsigned char* out)
+bool NarrowAscii(const wchar_t* text, unsigned long n, unsigned char* __restrict out)
 {
     std::uint32_t bits = 0;
     for (unsigned long i = 0; i < n; ++i) {

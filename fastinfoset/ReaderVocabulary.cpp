@@ -8,6 +8,20 @@
 
 namespace ZrXmlLib16 {
 
+namespace {
+
+/// Tables that get entries usually get some.
+constexpr std::size_t FIRST_CAPACITY = 16;
+
+template <class T> void ReserveFirst(std::vector<T>& entries)
+{
+    if (entries.empty()) {
+        entries.reserve(FIRST_CAPACITY);
+    }
+}
+
+} // namespace
+
 TextTable::TextTable(const CFIVocabulary::CFIStringTable* base)
     : m_base(base && base->size() > 0 ? &base->at(1) : nullptr)
     , m_baseSize(base ? base->size() : 0)
@@ -17,6 +31,7 @@ TextTable::TextTable(const CFIVocabulary::CFIStringTable* base)
 const std::wstring& TextTable::Add(std::wstring text)
 {
     if (m_baseSize + m_added.size() < MAXIMUM_INDEX) {
+        ReserveFirst(m_added);
         m_added.push_back(std::move(text));
         return m_added.back();
     }
@@ -67,6 +82,7 @@ const XmlName& ReaderVocabulary::Add(
 {
     const XmlName& name = m_names.Intern(namespaceUri, localName);
     if (table.names.size() < MAXIMUM_INDEX) {
+        ReserveFirst(table.names);
         table.names.push_back(&name);
     }
     return name;

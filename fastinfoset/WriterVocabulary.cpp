@@ -10,12 +10,12 @@ namespace {
 
 constexpr wchar_t KEY_SEPARATOR = 1;
 
-// Spaces of the index table. The first ones are the tables of single texts, by number. A pair of prefix and namespace
-// is a scope, with one space for the element names in it and the next one for the attribute names.
+// Spaces of the index table. The first ones are the tables of single texts, by number. The namespaces of scopes have
+// one, in which the index is another space: that of the prefixes that the namespace has in some scope.
 constexpr std::uint32_t NAMESPACES_OF_SCOPES = 5;
-constexpr std::uint32_t UNQUALIFIED_SCOPE = 6;
+constexpr std::uint32_t UNQUALIFIED_NAMES = 6;
 constexpr std::uint32_t SPACES_PER_SCOPE = 2;
-constexpr std::uint32_t FIRST_UNUSED_SPACE = UNQUALIFIED_SCOPE + SPACES_PER_SCOPE;
+constexpr std::uint32_t FIRST_UNUSED_SPACE = UNQUALIFIED_NAMES + SPACES_PER_SCOPE;
 
 CFIVocabulary& BaseOf(const CFastInfosetContext& context)
 {
@@ -28,7 +28,8 @@ CFIVocabulary& BaseOf(const CFastInfosetContext& context)
 WriterVocabulary::WriterVocabulary(const CFastInfosetContext& context)
     : m_base(BaseOf(context))
     , m_nextSpace(FIRST_UNUSED_SPACE)
-    , m_lastScope(UNQUALIFIED_SCOPE)
+    , m_unqualified{{}, {}, UNQUALIFIED_NAMES, 0, 0}
+    , m_lastScope(m_unqualified)
 {
     CFIVocabulary& base = BaseOf(context);
     const CFIVocabulary::CIndexMap* const maps[TABLE_COUNT] = {&base.GetPrefixNamesMap(), &base.GetNamespaceNamesMap(),
@@ -41,51 +42,85 @@ WriterVocabulary::WriterVocabulary(const CFastInfosetContext& context)
 
 unsigned long WriterVocabulary::FindOrAdd(VocabularyTable table, const std::wstring& text)
 {
-    const IndexTable::Key key(static_cast<std::uint32_t>(table), text);
-    const std::uint32_t index = m_indexes.Find(key);
-    return index != 0 ? index : FindInBaseOrAdd(GetTable(table), key, text);
+    return FindOrAdd(table, IndexTable::Key(static_cast<std::uint32_t>(table), text), text);
 }
 
-unsigned long WriterVocabulary::FindOrAddName(
-    VocabularyTable table, const std::wstring& prefix, const std::wstring& namespaceUri, const std::wstring& localName)
+unsigned long WriterVocabulary::FindOrAdd(VocabularyTable table, IndexTable::Key key, const std::wstring& text)
 {
-    const std::uint32_t kind = table == VocabularyTable::ElementNames ? 0 : 1;
-    const IndexTable::Key key(ScopeOf(prefix, namespaceUri) + kind, localName);
-    const std::uint32_t index = m_indexes.Find(key);
-    if (index != 0) {
-        return index;
-    }
-    m_baseKey.assign(localName).append(1, KEY_SEPARATOR).append(namespaceUri).append(1, KEY_SEPARATOR).append(prefix);
-    return FindInBaseOrAdd(GetTable(table), key, m_baseKey);
-}
-
-unsigned long WriterVocabulary::FindInBaseOrAdd(Table& table, const IndexTable::Key& key, const std::wstring& baseKey)
-{
-    unsigned long index = 0;
-    if (!table.base->empty() && m_base.FindIndex(*table.base, baseKey, index)) {
-        m_indexes.Insert(key, static_cast<std::uint32_t>(index));
-    } else if (table.size < MAXIMUM_INDEX) {
-        m_indexes.Insert(key, static_cast<std::uint32_t>(table.size + 1));
-        ++table.size;
+    unsigned long index = m_indexes.Find(key);
+    if (index == 0 && !FindInBase(GetTable(table), key, text, index)) {
+        Add(GetTable(table), key);
     }
     return index;
 }
 
-std::uint32_t WriterVocabulary::ScopeOf(const std::wstring& prefix, const std::wstring& namespaceUri)
+WriterVocabulary::NameIndexes WriterVocabulary::FindOrAddName(
+    VocabularyTable table, const std::wstring& prefix, const std::wstring& namespaceUri, const std::wstring& localName)
+{
+    Scope& scope = ScopeOf(prefix, namespaceUri);
+    IndexTable::Key key(scope.space + (table == VocabularyTable::ElementNames ? 0 : 1), localName);
+    NameIndexes indexes{m_indexes.Find(key), 0, 0, 0};
+    if (indexes.name != 0) {
+        return indexes;
+    }
+    if (!GetTable(table).base->empty()) {
+        m_baseKey.assign(localName)
+            .append(1, KEY_SEPARATOR)
+            .append(namespaceUri)
+            .append(1, KEY_SEPARATOR)
+            .append(prefix);
+        if (FindInBase(GetTable(table), key, m_baseKey, indexes.name)) {
+            return indexes;
+        }
+    }
+    Add(GetTable(table), key);
+    if (!prefix.empty() && scope.prefixIndex == 0) {
+        scope.prefixIndex = FindOrAdd(VocabularyTable::PrefixNames, prefix);
+    }
+    if (!namespaceUri.empty() && scope.namespaceIndex == 0) {
+        scope.namespaceIndex = FindOrAdd(VocabularyTable::NamespaceNames, namespaceUri);
+    }
+    indexes.prefix = scope.prefixIndex;
+    indexes.namespaceName = scope.namespaceIndex;
+    const auto localNames = static_cast<std::uint32_t>(VocabularyTable::LocalNames);
+    indexes.localName = FindOrAdd(VocabularyTable::LocalNames, key.InSpace(localNames), localName);
+    return indexes;
+}
+
+bool WriterVocabulary::FindInBase(
+    const Table& table, IndexTable::Key& key, const std::wstring& baseKey, unsigned long& index)
+{
+    if (table.base->empty() || !m_base.FindIndex(*table.base, baseKey, index)) {
+        return false;
+    }
+    m_indexes.Insert(key, static_cast<std::uint32_t>(index));
+    return true;
+}
+
+void WriterVocabulary::Add(Table& table, IndexTable::Key& key)
+{
+    if (table.size < MAXIMUM_INDEX) {
+        m_indexes.Insert(key, static_cast<std::uint32_t>(table.size + 1));
+        ++table.size;
+    }
+}
+
+WriterVocabulary::Scope& WriterVocabulary::ScopeOf(const std::wstring& prefix, const std::wstring& namespaceUri)
 {
     if (namespaceUri.empty() && prefix.empty()) {
-        return UNQUALIFIED_SCOPE;
+        return m_unqualified;
     }
-    if (namespaceUri != m_lastNamespaceUri || prefix != m_lastPrefix) {
-        const std::uint32_t prefixes = FindOrAddSpaces({NAMESPACES_OF_SCOPES, namespaceUri}, 1);
-        m_lastScope = FindOrAddSpaces({prefixes, prefix}, SPACES_PER_SCOPE);
-        m_lastNamespaceUri = namespaceUri;
-        m_lastPrefix = prefix;
+    if (namespaceUri != m_lastScope.namespaceUri || prefix != m_lastScope.prefix) {
+        IndexTable::Key namespaceKey(NAMESPACES_OF_SCOPES, namespaceUri);
+        const std::uint32_t prefixes = FindOrAddSpaces(namespaceKey, 1);
+        IndexTable::Key prefixKey(prefixes, prefix);
+        const std::uint32_t space = FindOrAddSpaces(prefixKey, SPACES_PER_SCOPE);
+        m_lastScope = {prefixKey.GetText(), namespaceKey.GetText(), space, 0, 0};
     }
     return m_lastScope;
 }
 
-std::uint32_t WriterVocabulary::FindOrAddSpaces(const IndexTable::Key& key, std::uint32_t count)
+std::uint32_t WriterVocabulary::FindOrAddSpaces(IndexTable::Key& key, std::uint32_t count)
 {
     std::uint32_t space = m_indexes.Find(key);
     if (space == 0) {

@@ -65,6 +65,8 @@ constexpr wchar_t JSON_ROOT_NOT_SINGLE[] = L"A JSON document must hold exactly o
 /// member name
 constexpr wchar_t JSON_ATTRIBUTE_NOT_SIMPLE[] = L"The JSON attribute [%ls] must have a simple value";
 constexpr wchar_t JSON_EVENTS_NOT_NESTED[] = L"The starts and ends of the JSON events do not match.";
+/// limit in octets
+constexpr wchar_t JSON_EXPANDS_TOO_FAR[] = L"The JSON document exceeds the limit of %lu expanded characters.";
 
 } // namespace Message
 } // namespace ZrXmlLib16

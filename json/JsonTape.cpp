@@ -4,7 +4,31 @@
 #include "ZrXmlLib16/ZrInvalidStateException.h"
 #include "json/JsonReaderMessages.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace ZrXmlLib16 {
+
+namespace {
+
+constexpr std::size_t BLOCK_LENGTH = 16384;
+
+} // namespace
+
+const wchar_t* JsonTexts::Keep(std::wstring_view text)
+{
+    if (text.size() > m_freeLength) {
+        const std::size_t length = std::max(text.size(), BLOCK_LENGTH);
+        std::unique_ptr<wchar_t[]> block(new wchar_t[length]); // left uninitialised
+        m_blocks.push_back(std::move(block));
+        m_free = m_blocks.back().get();
+        m_freeLength = length;
+    }
+    const wchar_t* const kept = m_free;
+    m_free = std::copy(text.begin(), text.end(), m_free);
+    m_freeLength -= text.size();
+    return kept;
+}
 
 JsonTape::JsonTape(JsonRoundTrip mode)
     : m_mode(mode)
@@ -15,9 +39,8 @@ JsonTape::JsonTape(JsonRoundTrip mode)
 void JsonTape::AddText(std::wstring_view text)
 {
     JsonEvent& event = Add(JsonEvent::Kind::Text);
-    event.position = m_characters.size();
+    event.text = m_texts.Keep(text);
     event.extent = text.size();
-    m_characters.append(text);
 }
 
 void JsonTape::AddNull()
@@ -69,7 +92,7 @@ JsonEvent& JsonTape::Add(JsonEvent::Kind kind)
         name = container.kind == JsonEvent::Kind::Array ? container.name : TakeNameInObject(container);
     }
     m_nextName = nullptr;
-    m_events.push_back({name, 0, 0, kind});
+    m_events.push_back({name, nullptr, 0, kind});
     return m_events.back();
 }
 

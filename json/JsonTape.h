@@ -5,6 +5,7 @@
 #include "json/JsonNames.h"
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,13 +22,27 @@ struct JsonEvent {
         Missing // a name was given, but no value
     };
 
+    std::wstring_view GetText() const { return std::wstring_view(text, extent); }
+
     const JsonName* name; // an item has the name of its array; null for the document itself
-    std::size_t position; // Text: the first character
+    const wchar_t* text;  // Text: the characters
     std::size_t extent;   // Text: number of characters; Object and Array: index of the first event behind the end
     Kind kind;
     bool hasElements = false; // among the members of an object, like the next two
     bool hasText = false;
     bool hasAttributes = false;
+};
+
+/// Keeps texts in blocks, so that growing moves nothing.
+class JsonTexts {
+public:
+    /// @return the kept characters, which live as long as this object.
+    const wchar_t* Keep(std::wstring_view text);
+
+private:
+    std::vector<std::unique_ptr<wchar_t[]>> m_blocks;
+    wchar_t* m_free = nullptr; // behind the last text
+    std::size_t m_freeLength = 0;
 };
 
 /// The values of one JSON document in the order of the text, without an allocation for each.
@@ -56,10 +71,6 @@ public:
     const JsonEvent& operator[](std::size_t index) const { return m_events[index]; }
     /// Index of the event behind the value, its content included.
     std::size_t GetNext(std::size_t index) const;
-    std::wstring_view GetText(const JsonEvent& event) const
-    {
-        return std::wstring_view(m_characters.data() + event.position, event.extent);
-    }
     /// Whether the XML of this document needs the prefix "xsi".
     bool NeedsInstancePrefix() const { return m_hasNil || m_names.UsesInstancePrefix(); }
 
@@ -70,7 +81,7 @@ private:
     const JsonRoundTrip m_mode;
     JsonNames m_names;
     std::vector<JsonEvent> m_events;
-    std::wstring m_characters; // of all texts
+    JsonTexts m_texts;
     std::vector<std::size_t> m_open;
     const JsonName* m_nextName = nullptr;
     bool m_hasNil = false;

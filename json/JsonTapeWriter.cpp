@@ -129,7 +129,7 @@ void JsonTapeWriter::OpenObject(std::size_t object)
         for (std::size_t i = object + 1; i < event.extent; i = m_tape.GetNext(i)) {
             const JsonEvent& member = m_tape[i];
             if (member.name->kind == JsonName::Kind::Attribute && member.kind == JsonEvent::Kind::Text) {
-                m_value.assign(m_tape.GetText(member));
+                m_value.assign(member.GetText());
                 m_writer.WriteAttributeString(member.name->xmlName, m_empty, m_value, ItemType_string);
             }
         }
@@ -166,7 +166,7 @@ void JsonTapeWriter::WriteText(const JsonEvent& event)
     if (event.kind != JsonEvent::Kind::Text) {
         return;
     }
-    const std::wstring_view text = m_tape.GetText(event);
+    const std::wstring_view text = event.GetText();
     if (text.substr(0, CDATA_START.size()) == CDATA_START) {
         // The writer would take the text for markup. It escapes both parts.
         m_value.assign(text, 0, 1);

@@ -31,6 +31,7 @@ CJsonTextWriter::CJsonTextWriter(CTextStream& stream)
     , m_stream(stream)
     , m_hasNoMember(false)
     , m_openArrays(0)
+    , m_flushesOften(false)
 {
 }
 
@@ -173,6 +174,9 @@ void CJsonTextWriter::WriteEndElement()
     }
     CloseContext();
     m_hasNoMember = false;
+    if (m_flushesOften) {
+        FlushWhenFull(m_stream);
+    }
 }
 
 void CJsonTextWriter::WriteAttributeString(

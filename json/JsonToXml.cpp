@@ -1,41 +1,36 @@
 // SPDX-License-Identifier: MIT
+#include "ZrXmlLib16/Formatting.h"
 #include "ZrXmlLib16/JsonContext.h"
 #include "ZrXmlLib16/JsonReaderToXmlHandler.h"
 #include "ZrXmlLib16/JsonTextReader.h"
-#include "ZrXmlLib16/TextStream.h"
 #include "ZrXmlLib16/XmlTextWriter.h"
+#include "ZrXmlLib16/ZrException.h"
 #include "core/FormatSettings.h"
+#include "streams/Utf8TextStream.h"
+#include "json/JsonReaderMessages.h"
 
 namespace ZrXmlLib16 {
 
 namespace {
 
-/// Encodes the text of a writer piece by piece, so that the whole of it is never held as wide text.
-class Utf8Collector : public CTextStream {
+/// The octets of a document that may not become arbitrarily long.
+class LimitedStream : public CUtf8TextStream {
 public:
-    Utf8Collector()
-        : CTextStream(Encoding_UTF8)
+    explicit LimitedStream(unsigned long maximumOctets)
+        : m_maximumOctets(maximumOctets)
     {
     }
-
-    void Open() override
-    {
-        CTextStream::Open();
-        m_octets.Clear();
-    }
-
-    void Close() override { Flush(); }
 
     void Flush() override
     {
-        m_octets.Append(GetEncodedStream());
-        EmptyText();
+        CUtf8TextStream::Flush();
+        if (GetOctetCount() > m_maximumOctets) {
+            throw CZrException(FormatString(Message::JSON_EXPANDS_TOO_FAR, m_maximumOctets));
+        }
     }
 
-    const CBinaryData& GetOctets() const { return m_octets; }
-
 private:
-    CBinaryData m_octets;
+    const unsigned long m_maximumOctets;
 };
 
 } // namespace
@@ -43,7 +38,8 @@ private:
 CBinaryData CJsonTextReader::ConvertJsonToXml(const std::wstring& json, const CSerializationContext& context)
 {
     const CJsonContext& settings = CFormatSettings::Json(context);
-    Utf8Collector stream;
+    // The items of an array repeat its name: a short text may stand for a very long document.
+    LimitedStream stream(CFormatSettings::MaximumExpansion(context, json.size()));
     CXmlTextWriter writer(stream);
     CJsonTextReader reader(json);
     CJsonReaderToXmlHandler handler(writer, settings.GetSupportRoundtrip(), *reader.GetErrorPathProvider());
@@ -52,7 +48,7 @@ CBinaryData CJsonTextReader::ConvertJsonToXml(const std::wstring& json, const CS
     reader.SetRootElementName(settings.GetRootElementName().c_str());
     reader.Read();
     writer.Close();
-    return stream.GetOctets();
+    return stream.TakeOctets();
 }
 
 } // namespace ZrXmlLib16

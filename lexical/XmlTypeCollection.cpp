@@ -4,6 +4,7 @@
 #include "ZrXmlLib16/XmlElement.h"
 #include "core/TextArgument.h"
 #include "lexical/FacetCheck.h"
+#include "xml/NodeAccess.h"
 
 namespace ZrXmlLib16 {
 
@@ -35,7 +36,7 @@ CXmlElement* CXmlTypeCollection::FromXml_Int(
     // collection even when more items follow it.
     CXmlElement* cursor = firstChild;
     while (DoesElementNameMatch(context, cursor, ElementName(), Namespace())) {
-        AddFromString(cursor->GetText());
+        AddFromString(NodeAccess::CopyText(*cursor));
         cursor = cursor->GetNextSiblingElement();
     }
     return cursor;

@@ -8,6 +8,7 @@
 #include "ZrXmlLib16/ZrVariant.h"
 #include "core/TextArgument.h"
 #include "metadata/MetadataMessages.h"
+#include "xml/NodeAccess.h"
 
 namespace ZrXmlLib16Data {
 
@@ -45,8 +46,8 @@ bool CAttributeInfoAny::AttributeFromXml(
     if (!attributes) {
         throw CZrException(Message::NOT_AN_ATTRIBUTE_COLLECTION);
     }
-    attributes->Add(
-        attribute->GetNamespaceURI().c_str(), attribute->GetValue().c_str(), attribute->GetLocalName().c_str());
+    attributes->Add(attribute->GetNamespaceURI().c_str(), NodeAccess::GetValue(*attribute).c_str(),
+        attribute->GetLocalName().c_str());
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include "ZrXmlLib16/ZrVariant.h"
 #include "metadata/EnumerationText.h"
 #include "metadata/RecordAccess.h"
+#include "xml/NodeAccess.h"
 
 namespace ZrXmlLib16Data {
 
@@ -47,7 +48,7 @@ bool CAttributeInfoEnum::AttributeFromXml(
         return false;
     }
     ZrVariant value;
-    value.SetI4(m_stringToEnum(attribute->GetValue().c_str()));
+    value.SetI4(m_stringToEnum(NodeAccess::GetValue(*attribute).c_str()));
     InvokePropertySet(object, value, *attribute);
     return true;
 }

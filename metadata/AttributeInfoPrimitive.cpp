@@ -6,6 +6,7 @@
 #include "core/TextArgument.h"
 #include "lexical/FacetCheck.h"
 #include "metadata/RecordAccess.h"
+#include "xml/NodeAccess.h"
 
 namespace ZrXmlLib16Data {
 
@@ -59,7 +60,7 @@ bool CAttributeInfoPrimitive::AttributeFromXml(
         return false;
     }
     ZrVariant value;
-    value.FromString(attribute->GetValue(), m_itemType, m_whitespaceRule);
+    NodeAccess::ParseValue(*attribute, m_itemType, m_whitespaceRule, value);
     InvokePropertySet(object, value, *attribute);
     return true;
 }

@@ -198,11 +198,16 @@ void CElement::ToXml_Int(
         CXmlObjectBase::ToXml_Int(m_attributes, writer, false, L"", context, false);
     }
     if (m_elements) {
-        CXmlObjectBase::ToXml_Int(m_elements, writer, false, L"", context, false);
+        m_elements->WriteChildren(*writer, context);
     }
     // kept: required behaviour. All text comes behind the children, indentation included.
     writer->WriteString(m_text, ItemType_string, false);
     writer->WriteEndElement();
+}
+
+bool CElement::HasSameName(const CElement& other) const
+{
+    return ElementName() == other.ElementName() && m_namespace == other.m_namespace;
 }
 
 CXmlElement* CElement::FromXml_Int(

@@ -2,6 +2,7 @@
 #include "ZrXmlLib16/ElementCol.h"
 
 #include "ZrXmlLib16/XmlElement.h"
+#include "ZrXmlLib16/XmlWriter.h"
 #include "ZrXmlLib16/ZrInvalidParamException.h"
 #include "ZrXmlLib16/ZrInvalidStateException.h"
 #include "core/TextArgument.h"
@@ -148,6 +149,25 @@ CXmlElement* CElementCol::ReadItem(CXmlElement* element, const CSerializationCon
     CXmlElement* next = CXmlObjectBase::FromXml_Int(item, element, element->GetFirstElement(), context);
     AppendItem(item);
     return next;
+}
+
+// No schema tells which children repeat: those of one name that stand together are a collection.
+void CElementCol::WriteChildren(CXmlWriter& writer, const CSerializationContext& context) const
+{
+    bool isRepeated = false;
+    for (auto position = begin(); position != end();) {
+        const CElement* const item = *position;
+        const CElement* const next = ++position == end() ? nullptr : *position;
+        const bool continues = next && next->HasSameName(*item);
+        if (continues && !isRepeated) {
+            writer.SetContextState(CXmlWriter::ContextState_CollectionStart);
+        }
+        CXmlObjectBase::ToXml_Int(item, &writer, false, L"", context, false);
+        if (isRepeated && !continues) {
+            writer.SetContextState(CXmlWriter::ContextState_CollectionEnd);
+        }
+        isRepeated = continues;
+    }
 }
 
 } // namespace ZrXmlLib16

@@ -8,6 +8,7 @@
 #include "ZrXmlLib16/ZrInvalidParamException.h"
 #include "core/NilAttribute.h"
 #include "metadata/MetadataMessages.h"
+#include "xml/NodeAccess.h"
 
 #include <utility>
 #include <vector>
@@ -28,17 +29,19 @@ void CElement::TakeNameAndText(const CXmlElement& element)
 {
     SetElementName(element.GetLocalName().c_str());
     m_namespace = element.GetNamespaceURI();
-    m_text = element.GetText();
+    m_text = NodeAccess::CopyText(element);
 }
 
 void CElement::TakeAttributes(const CXmlElement& element)
 {
-    for (const CXmlAttribute* attribute : element.GetAttributes()) {
+    for (const CXmlAttribute* attribute = NodeAccess::GetFirstAttribute(element); attribute;
+         attribute = NodeAccess::GetNextAttribute(element, *attribute)) {
         if (IsDefaultDeclaration(*attribute)) {
-            m_defaultNamespace = attribute->GetValue();
+            m_defaultNamespace = NodeAccess::GetValue(*attribute);
         } else if (!HasDeclarationName(*attribute)) {
             // kept: required behaviour. A prefix inside a value, such as that of xsi:type, is no more than text.
-            Attributes().AddItem(attribute->GetNamespaceURI(), attribute->GetValue(), attribute->GetLocalName());
+            Attributes().AddItem(
+                attribute->GetNamespaceURI(), NodeAccess::GetValue(*attribute), attribute->GetLocalName());
         }
     }
 }

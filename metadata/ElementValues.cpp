@@ -15,6 +15,7 @@
 #include "core/NilAttribute.h"
 #include "metadata/EnumerationText.h"
 #include "metadata/RecordAccess.h"
+#include "xml/NodeAccess.h"
 
 namespace ZrXmlLib16Data {
 
@@ -110,7 +111,8 @@ bool CElementInfo::ElementToXmlCol(
 bool CElementInfo::ReadNilAttributes(const CSerializationContext& context, const CXmlElement& element) const
 {
     bool isNil = false;
-    for (const CXmlAttribute* attribute : element.GetAttributes()) {
+    for (const CXmlAttribute* attribute = NodeAccess::GetFirstAttribute(element); attribute;
+         attribute = NodeAccess::GetNextAttribute(element, *attribute)) {
         if (attribute->IsNilAttribute()) {
             if (!m_nillable && !IsNilFalse(*attribute)) {
                 throw CZrValidationException(ZrXmlLib16::Message::NIL_ON_NON_NILLABLE, attribute->GetXPath());
@@ -126,7 +128,7 @@ bool CElementInfo::ReadNilAttributes(const CSerializationContext& context, const
 
 const std::wstring& CElementInfo::TextOrDefault(const CXmlElement& element) const
 {
-    return element.GetText().empty() ? m_defaultValue : element.GetText();
+    return NodeAccess::HasText(element) ? NodeAccess::GetText(element) : m_defaultValue;
 }
 
 void CElementInfo::ElementFromXmlPrim(
@@ -137,7 +139,11 @@ void CElementInfo::ElementFromXmlPrim(
     // reading.
     if (!ReadNilAttributes(context, *element)) {
         ZrVariant value;
-        value.FromString(TextOrDefault(*element), m_itemType, m_whitespaceRule);
+        if (NodeAccess::HasText(*element)) {
+            NodeAccess::ParseText(*element, m_itemType, m_whitespaceRule, value);
+        } else {
+            value.FromString(m_defaultValue, m_itemType, m_whitespaceRule);
+        }
         InvokePropertySet(object, value, *element);
     }
     *current = element->GetNextSiblingElement();

@@ -10,6 +10,8 @@
 #include "metadata/MetadataMessages.h"
 #include "metadata/RecordAccess.h"
 
+#include <utility>
+
 namespace ZrXmlLib16Data {
 
 using namespace ZrXmlLib16;
@@ -25,7 +27,7 @@ CSmartPtr<CXmlObjectBase> HeldChild(const CElementInfo& record, CXmlGeneratedCla
 {
     ZrVariant value;
     CRecordAccess::GetProperty(record, object, value);
-    return value.GetXmlObject();
+    return value.TakeXmlObject();
 }
 
 CSmartPtr<CXmlObjectBase> NewChild(const CElementInfo& record, const CClassRecordData& data)
@@ -40,10 +42,11 @@ CSmartPtr<CXmlObjectBase> NewChild(const CElementInfo& record, const CClassRecor
     return child;
 }
 
-void Store(const CElementInfo& record, CXmlGeneratedClass* object, CXmlObjectBase* child, const CXmlElement& source)
+void Store(
+    const CElementInfo& record, CXmlGeneratedClass* object, CSmartPtr<CXmlObjectBase> child, const CXmlElement& source)
 {
     ZrVariant value;
-    value.SetXmlObject(child);
+    value.AdoptXmlObject(std::move(child));
     CRecordAccess::SetProperty(record, object, value, source);
 }
 
@@ -98,7 +101,7 @@ bool ClsKind::Read(CElementInfo& record, const Data& data, const ReadCall& call,
     }
     child = NewChild(record, data);
     ReadElement(record, child, call);
-    Store(record, call.object, child, element);
+    Store(record, call.object, std::move(child), element);
     return true;
 }
 
@@ -119,7 +122,7 @@ bool AbsClsKind::Write(const CElementInfo& record, const WriteCall& call)
 bool AbsClsKind::Read(CElementInfo& record, const Data& data, const ReadCall& call, Occurrence occurrence)
 {
     CXmlElement* element = *call.current;
-    const CSmartPtr<CXmlObjectBase> child = data.factory(element);
+    CSmartPtr<CXmlObjectBase> child = data.factory(element);
     if (!child) {
         if (occurrence == Occurrence::Mandatory) {
             throw CZrValidationException(FormatString(MISSING, record.GetElementName().c_str()), element->GetXPath());
@@ -127,7 +130,7 @@ bool AbsClsKind::Read(CElementInfo& record, const Data& data, const ReadCall& ca
         return false;
     }
     ReadElement(record, child, call);
-    Store(record, call.object, child, *element);
+    Store(record, call.object, std::move(child), *element);
     return true;
 }
 
@@ -148,10 +151,10 @@ bool UntpdKind::Write(const CElementInfo& record, const WriteCall& call)
 bool UntpdKind::Read(CElementInfo& record, const Data&, const ReadCall& call, Occurrence)
 {
     CXmlElement* element = *call.current;
-    const CSmartPtr<CXmlObjectBase> child = CRecordAccess::NewUntypedElement(record);
+    CSmartPtr<CXmlObjectBase> child = CRecordAccess::NewUntypedElement(record);
     // An untyped element answers with the element behind the one it has read.
     *call.current = CRecordAccess::ReadChild(record, child, element, element->GetFirstElement(), call.context);
-    Store(record, call.object, child, *element);
+    Store(record, call.object, std::move(child), *element);
     return true;
 }
 

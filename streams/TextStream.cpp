@@ -21,6 +21,12 @@ CTextStream::CTextStream(XmlEncoding encoding)
 {
 }
 
+CTextStream::CTextStream(XmlEncoding encoding, unsigned long blockSize)
+    : m_buffer(blockSize)
+    , m_encoding(encoding)
+{
+}
+
 CTextStream::CTextStream(const wchar_t*, XmlEncoding encoding)
     : CTextStream(encoding)
 {

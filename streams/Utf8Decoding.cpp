@@ -73,6 +73,42 @@ DecodedSequence DecodeSequence(const unsigned char* data, unsigned long availabl
     return lead >= 0xF0 && lead <= 0xF4 ? DecodeFour(data, available) : ILL_FORMED;
 }
 
+// No sequence has more units than octets.
+template <class Unit> Unit* Decode(const unsigned char* data, unsigned long length, Unit* output)
+{
+    unsigned long at = 0;
+    bool inIllFormedRun = false;
+    while (at < length) {
+        while (length - at >= ASCII_RUN && IsAsciiRun(data + at)) {
+            for (unsigned long i = 0; i < ASCII_RUN; ++i) {
+                *output++ = static_cast<Unit>(data[at++]);
+            }
+            inIllFormedRun = false;
+        }
+        if (at == length) {
+            break;
+        }
+        const DecodedSequence sequence = DecodeSequence(data + at, length - at);
+        if (sequence.length == 0) {
+            if (!inIllFormedRun) {
+                *output++ = static_cast<Unit>(REPLACEMENT_CHARACTER);
+            }
+            inIllFormedRun = true;
+            ++at;
+            continue;
+        }
+        inIllFormedRun = false;
+        at += sequence.length;
+        if (sequence.codePoint < 0x10000) {
+            *output++ = static_cast<Unit>(sequence.codePoint);
+        } else {
+            *output++ = static_cast<Unit>(HighSurrogate(sequence.codePoint));
+            *output++ = static_cast<Unit>(LowSurrogate(sequence.codePoint));
+        }
+    }
+    return output;
+}
+
 } // namespace
 
 std::wstring DecodeUtf8(const unsigned char* data, unsigned long length)
@@ -83,40 +119,14 @@ std::wstring DecodeUtf8(const unsigned char* data, unsigned long length)
     return text;
 }
 
-// No sequence has more units than octets.
 wchar_t* DecodeUtf8(const unsigned char* data, unsigned long length, wchar_t* output)
 {
-    unsigned long at = 0;
-    bool inIllFormedRun = false;
-    while (at < length) {
-        while (length - at >= ASCII_RUN && IsAsciiRun(data + at)) {
-            for (unsigned long i = 0; i < ASCII_RUN; ++i) {
-                *output++ = static_cast<wchar_t>(data[at++]);
-            }
-            inIllFormedRun = false;
-        }
-        if (at == length) {
-            break;
-        }
-        const DecodedSequence sequence = DecodeSequence(data + at, length - at);
-        if (sequence.length == 0) {
-            if (!inIllFormedRun) {
-                *output++ = static_cast<wchar_t>(REPLACEMENT_CHARACTER);
-            }
-            inIllFormedRun = true;
-            ++at;
-            continue;
-        }
-        inIllFormedRun = false;
-        at += sequence.length;
-        if (sequence.codePoint < 0x10000) {
-            *output++ = static_cast<wchar_t>(sequence.codePoint);
-        } else {
-            *output++ = HighSurrogate(sequence.codePoint);
-            *output++ = LowSurrogate(sequence.codePoint);
-        }
-    }
-    return output;
+    return Decode(data, length, output);
+}
+
+unsigned short* DecodeUtf8(const unsigned char* data, unsigned long length, unsigned short* output)
+{
+    return Decode(data, length, output);
 }
 
 } // namespace ZrXmlLib16

@@ -11,6 +11,7 @@ std::wstring DecodeUtf8(const unsigned char* data, unsigned long length);
 /// The same into an array that has room for as many units as there are octets.
 /// @return the end of what was written.
 wchar_t* DecodeUtf8(const unsigned char* data, unsigned long length, wchar_t* output);
+unsigned short* DecodeUtf8(const unsigned char* data, unsigned long length, unsigned short* output);
 
 } // namespace ZrXmlLib16
 

@@ -6,20 +6,26 @@
 #include <algorithm>
 #include <memory>
 
+#include <emmintrin.h>
+
 namespace ZrXmlLib16 {
 
 namespace {
 
-constexpr unsigned long ASCII_RUN = 8;
+constexpr unsigned long ASCII_RUN = 16;
+
+__m128i LoadFour(const wchar_t* text)
+{
+    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(text));
+}
 
 /// Whether the next ASCII_RUN characters are all ASCII.
 bool IsAsciiRun(const wchar_t* text)
 {
-    std::uint32_t bits = 0;
-    for (unsigned long i = 0; i < ASCII_RUN; ++i) {
-        bits |= static_cast<std::uint32_t>(text[i]);
-    }
-    return bits < 0x80;
+    const __m128i all = _mm_or_si128(
+        _mm_or_si128(LoadFour(text), LoadFour(text + 4)), _mm_or_si128(LoadFour(text + 8), LoadFour(text + 12)));
+    const __m128i beyondAscii = _mm_and_si128(all, _mm_set1_epi32(~0x7F));
+    return _mm_movemask_epi8(_mm_cmpeq_epi32(beyondAscii, _mm_setzero_si128())) == 0xFFFF;
 }
 
 class CountingSink {
@@ -44,9 +50,9 @@ public:
 
     void AddAsciiRun(const wchar_t* text)
     {
-        for (unsigned long i = 0; i < ASCII_RUN; ++i) {
-            m_out[i] = static_cast<unsigned char>(text[i]);
-        }
+        const __m128i low = _mm_packs_epi32(LoadFour(text), LoadFour(text + 4));
+        const __m128i high = _mm_packs_epi32(LoadFour(text + 8), LoadFour(text + 12));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(m_out), _mm_packus_epi16(low, high));
         m_out += ASCII_RUN;
     }
 
@@ -68,6 +74,8 @@ public:
             PutTail(value);
         }
     }
+
+    unsigned char* GetEnd() const { return m_out; }
 
 private:
     void Put(std::uint32_t octet) { *m_out++ = static_cast<unsigned char>(octet); }
@@ -156,10 +164,11 @@ unsigned long Utf8Length(const TextPiece* pieces, std::size_t count)
     return sink.GetLength();
 }
 
-void WriteUtf8(const TextPiece* pieces, std::size_t count, unsigned char* out)
+unsigned char* WriteUtf8(const TextPiece* pieces, std::size_t count, unsigned char* out)
 {
     WritingSink sink(out);
     ScanText(pieces, count, sink);
+    return sink.GetEnd();
 }
 
 CBinaryData EncodeUtf8(const TextPiece* pieces, std::size_t count)

@@ -17,8 +17,8 @@ struct TextPiece {
 /// Number of octets of the text in UTF-8.
 unsigned long Utf8Length(const TextPiece* pieces, std::size_t count);
 
-/// Writes the text in UTF-8. @param out room for Utf8Length octets.
-void WriteUtf8(const TextPiece* pieces, std::size_t count, unsigned char* out);
+/// Writes the text in UTF-8. @param out room for Utf8Length octets. @return the end of what was written.
+unsigned char* WriteUtf8(const TextPiece* pieces, std::size_t count, unsigned char* out);
 
 /// The text in UTF-8, in an array of exactly the needed size.
 CBinaryData EncodeUtf8(const TextPiece* pieces, std::size_t count);

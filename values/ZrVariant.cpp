@@ -126,12 +126,6 @@ const ItemTypeRow& ConvertibleRow(int type)
 
 } // namespace
 
-ZrVariant::ZrVariant()
-    : m_nil(false)
-    , m_type(ItemType_none)
-{
-}
-
 ZrVariant::ZrVariant(const ZrVariant& other)
     : ZrVariant()
 {
@@ -201,7 +195,7 @@ void ZrVariant::MoveFrom(ZrVariant& other) noexcept
     other.Clear();
 }
 
-void ZrVariant::Clear()
+void ZrVariant::DropValue()
 {
     // The variant is invalid before the value goes: the destructor of an object may come back to it.
     const StorageClass storage = StorageOf(m_type, m_nil);
@@ -331,6 +325,11 @@ const std::wstring& ZrVariant::GetString() const
     return Read(ItemType_string, &Value::string);
 }
 
+std::wstring ZrVariant::TakeString()
+{
+    return StorageOf(m_type, m_nil) == StorageClass::String ? std::move(m_value.string) : std::wstring();
+}
+
 void ZrVariant::SetDecimal(const CDecimal& value)
 {
     Store(ItemType_decimal, &Value::decimal, value);
@@ -354,6 +353,16 @@ const CBigInteger& ZrVariant::GetInteger() const
 void ZrVariant::SetXmlObject(CXmlObjectBase* value)
 {
     Store(ItemType_object, &Value::object, CSmartPtr<CXmlObjectBase>(value));
+}
+
+void ZrVariant::AdoptXmlObject(CSmartPtr<CXmlObjectBase> value)
+{
+    Store(ItemType_object, &Value::object, std::move(value));
+}
+
+CSmartPtr<CXmlObjectBase> ZrVariant::TakeXmlObject()
+{
+    return StorageOf(m_type, m_nil) == StorageClass::Object ? std::move(m_value.object) : CSmartPtr<CXmlObjectBase>();
 }
 
 CSmartPtr<CXmlObjectBase> ZrVariant::GetXmlObject() const

@@ -15,8 +15,10 @@ namespace {
 constexpr std::size_t HEADER_SIZE = sizeof(NodePool*);
 // A heap node keeps the alignment that operator new promises to any type.
 constexpr std::size_t HEAP_OFFSET = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
-constexpr std::size_t FIRST_SLAB_NODES = 8;
-constexpr std::size_t MAXIMUM_SLAB_NODES = 256;
+
+// Typical documents need a little less per byte of their text.
+constexpr std::size_t ARENA_PER_INPUT = 5;
+constexpr std::size_t LARGEST_ESTIMATED_INPUT = std::size_t(1) << 30;
 
 static_assert(alignof(CXmlElement) <= HEADER_SIZE && sizeof(CXmlElement) % HEADER_SIZE == 0);
 static_assert(alignof(CXmlAttribute) <= HEADER_SIZE && sizeof(CXmlAttribute) % HEADER_SIZE == 0);
@@ -39,9 +41,6 @@ NodePool* LoadPool(const unsigned char* node) noexcept
 NodePool::NodePool(DocumentStorage& owner, std::size_t nodeSize) noexcept
     : m_owner(owner)
     , m_stride(HEADER_SIZE + nodeSize)
-    , m_slabNodes(0)
-    , m_unused(nullptr)
-    , m_unusedEnd(nullptr)
     , m_freeNodes(nullptr)
 {
 }
@@ -52,12 +51,9 @@ void* NodePool::Allocate()
     if (node) {
         std::memcpy(&m_freeNodes, node, sizeof(m_freeNodes));
     } else {
-        if (m_unused == m_unusedEnd) {
-            AddSlab();
-        }
-        unsigned char* const fresh = m_unused + HEADER_SIZE;
+        unsigned char* const fresh =
+            static_cast<unsigned char*>(m_owner.m_arena.Allocate(m_stride, HEADER_SIZE)) + HEADER_SIZE;
         StorePool(fresh, this);
-        m_unused += m_stride;
         node = fresh;
     }
     ++m_owner.m_liveNodes;
@@ -87,16 +83,6 @@ void NodePool::Free(void* node) noexcept
     pool->m_owner.NodeFreed();
 }
 
-void NodePool::AddSlab()
-{
-    const std::size_t nodes = m_slabNodes == 0 ? FIRST_SLAB_NODES : std::min(2 * m_slabNodes, MAXIMUM_SLAB_NODES);
-    const std::size_t size = nodes * m_stride;
-    m_slabs.push_back(std::unique_ptr<unsigned char[]>(new unsigned char[size]));
-    m_slabNodes = nodes;
-    m_unused = m_slabs.back().get();
-    m_unusedEnd = m_unused + size;
-}
-
 void XmlNameRelease::operator()(const XmlName* name) const noexcept
 {
     if (!name->storage) {
@@ -104,11 +90,39 @@ void XmlNameRelease::operator()(const XmlName* name) const noexcept
     }
 }
 
-DocumentStorage::DocumentStorage()
-    : m_elements(*this, sizeof(CXmlElement))
+DocumentStorage::DocumentStorage(std::size_t inputSize)
+    : m_arena(std::min(inputSize, LARGEST_ESTIMATED_INPUT) * ARENA_PER_INPUT)
+    , m_classes(m_arena)
+    , m_elements(*this, sizeof(CXmlElement))
     , m_attributes(*this, sizeof(CXmlAttribute))
     , m_names(*this)
 {
+}
+
+DocumentStorage::~DocumentStorage()
+{
+    while (m_forms) {
+        NodeForms* const next = m_forms->next;
+        delete m_forms;
+        m_forms = next;
+    }
+}
+
+void DocumentStorage::Link(NodeForms& forms) noexcept
+{
+    forms.next = m_forms;
+    if (m_forms) {
+        m_forms->previous = &forms;
+    }
+    m_forms = &forms;
+}
+
+void DocumentStorage::Unlink(NodeForms& forms) noexcept
+{
+    (forms.previous ? forms.previous->next : m_forms) = forms.next;
+    if (forms.next) {
+        forms.next->previous = forms.previous;
+    }
 }
 
 void DocumentStorage::Abandon() noexcept

@@ -2,17 +2,16 @@
 #ifndef XML_DOCUMENTSTORAGE_H
 #define XML_DOCUMENTSTORAGE_H
 
+#include "ZrXmlLib16/NodeText.h"
+#include "xml/Arena.h"
+#include "xml/ClassMemory.h"
 #include "xml/NameTable.h"
 
 #include <cstddef>
-#include <memory>
-#include <vector>
 
 namespace ZrXmlLib16 {
 
-class DocumentStorage;
-
-/// Memory for nodes of one size: slabs that grow with the number of nodes, freed nodes are used again.
+/// Memory for nodes of one size; freed nodes are used again.
 ///
 /// In front of every node stands the address of its pool, or null when the node came from the heap, so that a plain
 /// `delete` finds the way back.
@@ -28,42 +27,58 @@ public:
     static void Free(void* node) noexcept;
 
 private:
-    void AddSlab();
-
     DocumentStorage& m_owner;
     const std::size_t m_stride;
-    std::vector<std::unique_ptr<unsigned char[]>> m_slabs;
-    std::size_t m_slabNodes; // nodes in the newest slab
-    unsigned char* m_unused; // the untouched rest of the newest slab
-    unsigned char* m_unusedEnd;
     void* m_freeNodes; // linked through their first word
 };
 
-/// Nodes and names of one document between two clean-ups. Belongs to the document, and after it to the nodes that a
-/// caller took out of the tree and has not deleted yet: these stay valid.
+/// Nodes, names and texts of one document between two clean-ups. Belongs to the document, and after it to the nodes
+/// that a caller took out of the tree and has not deleted yet: these stay valid.
 class DocumentStorage {
 public:
-    DocumentStorage();
+    /// @param inputSize bytes of the document's text, 0 when unknown.
+    explicit DocumentStorage(std::size_t inputSize);
     DocumentStorage(const DocumentStorage&) = delete;
     DocumentStorage& operator=(const DocumentStorage&) = delete;
 
-    /// Ends the document's hold; the storage goes now or with the last node.
+    /// Ends the document's hold, after it has deleted its tree; the storage goes now or with the last node.
     void Abandon() noexcept;
+    /// Whether every node belongs to the document's tree. Then nobody needs the nodes one by one: see Drop.
+    bool HasWholeTree() const noexcept { return m_hasWholeTree; }
+    /// Ends the storage together with all nodes.
+    void Drop() noexcept { delete this; }
+    /// A node leaves the tree. From now on texts come from the heap, so that a program that builds and removes does not
+    /// fill the arena with the texts of nodes that are gone.
+    void ReleaseNode() noexcept { m_hasWholeTree = false; }
 
     NodePool& GetElementPool() noexcept { return m_elements; }
     NodePool& GetAttributePool() noexcept { return m_attributes; }
     NameTable& GetNames() noexcept { return m_names; }
+    ClassMemory& GetClassMemory() noexcept { return m_classes; }
+    Arena& GetArena() noexcept { return m_arena; }
+    /// For the text that is being read; keeps its capacity from one to the next.
+    std::wstring& GetScratch() noexcept { return m_scratch; }
+    bool KeepsTexts() const noexcept { return m_hasWholeTree; }
+
+    /// The forms that go with the storage.
+    void Link(NodeForms& forms) noexcept;
+    void Unlink(NodeForms& forms) noexcept;
 
 private:
     friend class NodePool;
 
-    ~DocumentStorage() = default;
+    ~DocumentStorage();
     void NodeFreed() noexcept;
 
+    Arena m_arena;
+    ClassMemory m_classes;
     NodePool m_elements;
     NodePool m_attributes;
     NameTable m_names;
+    NodeForms* m_forms = nullptr;
+    std::wstring m_scratch;
     std::size_t m_liveNodes = 0;
+    bool m_hasWholeTree = true;
     bool m_abandoned = false;
 };
 

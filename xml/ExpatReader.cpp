@@ -9,6 +9,7 @@
 #include "ZrXmlLib16/XmlElement.h"
 #include "ZrXmlLib16/ZrException.h"
 #include "xml/DocumentStorage.h"
+#include "xml/NodeAccess.h"
 #include "xml/XmlMessages.h"
 
 #include <expat.h>
@@ -25,7 +26,6 @@ namespace {
 static_assert(sizeof(XML_Char) == 2 && std::is_same_v<XML_Char, Utf16Unit>);
 
 constexpr XML_Char NAMESPACE_SEPARATOR = L'|';
-constexpr std::size_t TEXT_BUFFER_SIZE = 1024;
 constexpr unsigned long LARGEST_SLICE = 1ul << 30;
 
 std::wstring WidenOptional(const Utf16Unit* units)
@@ -53,7 +53,6 @@ void CExpatReader::ParserDeleter::operator()(XML_ParserStruct* parser) const noe
 
 CExpatReader::CExpatReader(CXmlDocument& document)
     : m_document(document)
-    , m_textLength(0)
 {
 }
 
@@ -61,7 +60,6 @@ CExpatReader::~CExpatReader() = default;
 
 void CExpatReader::CreateParser()
 {
-    m_textBuffer.reset(new wchar_t[TEXT_BUFFER_SIZE]);
     // kept: required behaviour. Without namespace processing names keep prefix and colon, and declarations are
     // attributes.
     const bool ignoresNamespaces = m_document.GetSchemaType() == SchemaType_DTD;
@@ -100,8 +98,6 @@ void CExpatReader::Parse(bool isFinal)
 void CExpatReader::Cleanup()
 {
     m_parser.reset();
-    m_textBuffer.reset();
-    m_textLength = 0;
 }
 
 void CExpatReader::ThrowFailure()
@@ -112,7 +108,6 @@ void CExpatReader::ThrowFailure()
         Cleanup();
         std::rethrow_exception(m_handlerFailure);
     }
-    FlushText();
     Cleanup();
     throw CZrException(FormatString(Message::PARSE_FAILED, description.c_str(), line));
 }
@@ -139,54 +134,26 @@ void CExpatReader::FnStartElement(void* reader, const Utf16Unit* name, const Utf
 
 void CExpatReader::StartElement(const Utf16Unit* name, const Utf16Unit** attributes)
 {
-    FlushText();
     NameTable& names = m_document.GetStorage().GetNames();
     const XmlName& elementName = names.Intern(name);
     CXmlElement* const element = m_document.GetDocumentElement() ? m_document.OpenChildElement(elementName)
                                                                  : m_document.OpenDocElement(elementName);
-    std::size_t count = 0;
-    while (attributes[2 * count]) {
-        ++count;
-    }
-    element->m_attributes.reserve(count);
     for (; *attributes; attributes += 2) {
-        element->AddParsedAttribute(names.Intern(attributes[0]), attributes[1]);
+        const Utf16Unit* const value = attributes[1];
+        element->AddParsedAttribute(names.Intern(attributes[0]), value, Utf16Length(value));
     }
 }
 
 void CExpatReader::FnEndElement(void* reader, const Utf16Unit*) noexcept
 {
-    Guard(reader, [](CExpatReader& self) {
-        self.FlushText();
-        self.m_document.EndElement();
-    });
+    Guard(reader, [](CExpatReader& self) { self.m_document.EndElement(); });
 }
 
 void CExpatReader::FnText(void* reader, const Utf16Unit* text, int length) noexcept
 {
-    Guard(reader, [=](CExpatReader& self) { self.AddText(text, static_cast<std::size_t>(length)); });
-}
-
-void CExpatReader::AddText(const Utf16Unit* text, std::size_t length)
-{
-    while (length > 0) {
-        if (m_textLength == TEXT_BUFFER_SIZE) {
-            FlushText();
-        }
-        const std::size_t part = std::min(length, TEXT_BUFFER_SIZE - m_textLength);
-        wchar_t* const end = WidenExcludingCR(m_textBuffer.get() + m_textLength, text, part);
-        m_textLength = static_cast<std::size_t>(end - m_textBuffer.get());
-        text += part;
-        length -= part;
-    }
-}
-
-void CExpatReader::FlushText()
-{
-    if (m_textLength > 0) {
-        m_document.RequireOpenElement().AppendText(m_textBuffer.get(), m_textLength);
-        m_textLength = 0;
-    }
+    Guard(reader, [=](CExpatReader& self) {
+        NodeAccess::AppendUnits(self.m_document.RequireOpenElement(), text, static_cast<std::size_t>(length));
+    });
 }
 
 void CExpatReader::FnStartNamespace(void* reader, const Utf16Unit* prefix, const Utf16Unit* uri) noexcept
@@ -203,7 +170,6 @@ void CExpatReader::FnEndNamespace(void*, const Utf16Unit*) noexcept
 
 void CExpatReader::AddDelimiter(const wchar_t* text, std::size_t length)
 {
-    FlushText();
     m_document.RequireOpenElement().AppendText(text, length);
 }
 

@@ -15,8 +15,8 @@ class CXmlDocument;
 
 /// Reads XML text into a document: turns the events of the expat parser into nodes. Serves one parse.
 ///
-/// Character data is collected until the next tag, so that an element gets each run of text in one piece. No exception
-/// passes through the parser: a handler that fails keeps its exception, stops the parser and lets Parse raise it.
+/// No exception passes through the parser: a handler that fails keeps its exception, stops the parser and lets Parse
+/// raise it.
 class CExpatReader {
 public:
     explicit CExpatReader(CXmlDocument& document);
@@ -43,16 +43,12 @@ private:
     static void FnStartCDATA(void* reader) noexcept;
     static void FnEndCDATA(void* reader) noexcept;
 
-    void AddText(const Utf16Unit* text, std::size_t length);
     void AddDelimiter(const wchar_t* text, std::size_t length);
-    void FlushText();
     void StartElement(const Utf16Unit* name, const Utf16Unit** attributes);
     template <class Action> static void Guard(void* reader, Action action) noexcept;
     [[noreturn]] void ThrowFailure();
 
     CXmlDocument& m_document;
-    std::unique_ptr<wchar_t[]> m_textBuffer;
-    std::size_t m_textLength; // characters of the current element that wait in the buffer
     std::unique_ptr<XML_ParserStruct, ParserDeleter> m_parser;
     std::exception_ptr m_handlerFailure;
 };

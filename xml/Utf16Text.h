@@ -72,6 +72,31 @@ inline wchar_t* WidenExcludingCR(wchar_t* output, const Utf16Unit* units, std::s
     return std::copy_if(units, end, output, [](Utf16Unit unit) { return unit != CARRIAGE_RETURN; });
 }
 
+/// Copies the units, carriage returns left out.
+/// @return the end of what was written.
+inline Utf16Unit* CopyExcludingCR(Utf16Unit* output, const Utf16Unit* units, std::size_t length)
+{
+    constexpr Utf16Unit CARRIAGE_RETURN = 13;
+    const Utf16Unit* const end = units + length;
+    if (length < 16) { // too short for the two vectorised passes
+        for (; units != end; ++units) {
+            *output = *units;
+            output += *units != CARRIAGE_RETURN;
+        }
+        return output;
+    }
+    if (std::count(units, end, CARRIAGE_RETURN) == 0) { // nearly always: the parser normalises line ends
+        return std::copy(units, end, output);
+    }
+    return std::copy_if(units, end, output, [](Utf16Unit unit) { return unit != CARRIAGE_RETURN; });
+}
+
+/// Whether every character is a single unit.
+inline bool IsUtf16(const wchar_t* text, std::size_t length) noexcept
+{
+    return std::all_of(text, text + length, [](wchar_t c) { return static_cast<unsigned int>(c) <= 0xFFFF; });
+}
+
 } // namespace ZrXmlLib16
 
 #endif

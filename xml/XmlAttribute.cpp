@@ -11,17 +11,22 @@ CXmlAttribute::CXmlAttribute(
     CXmlElement* owner, const std::wstring& localName, const std::wstring& value, const std::wstring& namespaceUri)
     : m_owner(owner)
     , m_name(new XmlName(namespaceUri, localName, nullptr))
-    , m_value(value)
+    , m_next(this)
 {
+    m_value.AppendWide(nullptr, value.data(), value.size());
 }
 
 CXmlAttribute::CXmlAttribute(CXmlElement* owner, const XmlName& name)
     : m_owner(owner)
     , m_name(&name)
+    , m_next(this)
 {
 }
 
-CXmlAttribute::~CXmlAttribute() = default;
+CXmlAttribute::~CXmlAttribute()
+{
+    m_value.Release();
+}
 
 void* CXmlAttribute::operator new(std::size_t size)
 {
@@ -55,7 +60,13 @@ const std::wstring& CXmlAttribute::GetLocalName() const
 
 const std::wstring& CXmlAttribute::GetValue() const
 {
-    return m_value;
+    return m_value.GetForms(GetStorage()).text;
+}
+
+// Null for an attribute that was built by hand: its name is its own.
+DocumentStorage* CXmlAttribute::GetStorage() const
+{
+    return m_name->storage;
 }
 
 std::wstring CXmlAttribute::GetXPath() const

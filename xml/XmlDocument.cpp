@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ZrXmlLib16/XmlDocument.h"
 
+#include "ZrXmlLib16/Formatting.h"
 #include "ZrXmlLib16/SerializationContext.h"
 #include "ZrXmlLib16/XmlElement.h"
+#include "ZrXmlLib16/ZrException.h"
 #include "ZrXmlLib16/ZrInvalidStateException.h"
 #include "xml/DocumentStorage.h"
 #include "xml/XmlMessages.h"
@@ -36,6 +38,7 @@ CXmlDocument::CXmlDocument(bool (*elementEnd)(CXmlElement*))
 CXmlDocument::CXmlDocument(bool (*elementEnd)(CXmlElement*), const CSerializationContext& context)
     : m_input(nullptr)
     , m_inputSize(0)
+    , m_elementCount(0)
     , m_schemaType(SchemaType_XSD)
     , m_elementEnd(elementEnd)
     , m_context(&context)
@@ -65,6 +68,12 @@ void CXmlDocument::Init()
 void CXmlDocument::DestroyTree() noexcept
 {
     m_elementStack.clear();
+    m_elementCount = 0;
+    if (m_storage && m_storage->HasWholeTree()) {
+        static_cast<void>(m_documentElement.release());
+        m_storage.release()->Drop();
+        return;
+    }
     m_documentElement.reset();
     m_storage.reset();
 }
@@ -84,7 +93,7 @@ void CXmlDocument::StorageDeleter::operator()(DocumentStorage* storage) const no
 DocumentStorage& CXmlDocument::GetStorage()
 {
     if (!m_storage) {
-        m_storage.reset(new DocumentStorage);
+        m_storage.reset(new DocumentStorage(m_inputSize));
     }
     return *m_storage;
 }
@@ -122,6 +131,11 @@ CXmlElement* CXmlDocument::OpenChildElement(const XmlName& name)
 
 std::unique_ptr<CXmlElement> CXmlDocument::NewElement(CXmlElement* parent, const XmlName& name)
 {
+    const unsigned long maximum = m_context->GetInputLimits().GetMaxElements();
+    if (m_elementCount >= maximum) {
+        throw CZrException(FormatString(Message::TOO_MANY_ELEMENTS, maximum));
+    }
+    ++m_elementCount;
     return std::unique_ptr<CXmlElement>(new (name.storage->GetElementPool()) CXmlElement(this, parent, &name));
 }
 
@@ -172,7 +186,7 @@ void CXmlDocument::EndElement()
         return;
     }
     CXmlElement* const parent = m_elementStack.back();
-    if (parent->m_lastChild == element) {
+    if (parent->GetLastElement() == element) {
         delete parent->RemoveLastChildElement();
     }
 }

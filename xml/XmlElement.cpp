@@ -4,6 +4,7 @@
 #include "ZrXmlLib16/XmlAttribute.h"
 #include "ZrXmlLib16/XmlDocument.h"
 #include "xml/DocumentStorage.h"
+#include "xml/NodeAccess.h"
 
 #include <utility>
 
@@ -18,18 +19,17 @@ CXmlElement::CXmlElement(CXmlDocument* document, CXmlElement* parent, const XmlN
     : m_document(document)
     , m_parent(parent)
     , m_nextSibling(nullptr)
-    , m_firstChild(nullptr)
-    , m_lastChild(nullptr)
-    , m_name(name)
     , m_previousSibling(nullptr)
+    , m_firstChild(nullptr)
+    , m_name(name)
+    , m_lastAttribute(nullptr)
 {
 }
 
 CXmlElement::~CXmlElement()
 {
-    for (CXmlAttribute* attribute : m_attributes) {
-        delete attribute;
-    }
+    DeleteAttributes();
+    m_text.Release();
     // Every element gives its children to the list that is being worked off before it is deleted, so that no depth
     // costs stack.
     CXmlElement* pending = std::exchange(m_firstChild, nullptr);
@@ -37,7 +37,7 @@ CXmlElement::~CXmlElement()
         CXmlElement* const current = pending;
         pending = current->m_nextSibling;
         if (CXmlElement* const children = std::exchange(current->m_firstChild, nullptr)) {
-            current->m_lastChild->m_nextSibling = pending;
+            children->m_previousSibling->m_nextSibling = pending;
             pending = children;
         }
         delete current;
@@ -78,62 +78,88 @@ CXmlElement* CXmlElement::CreateNewChildElement()
 CXmlElement* CXmlElement::AppendChild(std::unique_ptr<CXmlElement> child)
 {
     CXmlElement* const added = child.release();
-    added->m_previousSibling = m_lastChild;
-    (m_lastChild ? m_lastChild->m_nextSibling : m_firstChild) = added;
-    m_lastChild = added;
+    if (m_firstChild) {
+        added->m_previousSibling = std::exchange(m_firstChild->m_previousSibling, added);
+        added->m_previousSibling->m_nextSibling = added;
+    } else {
+        m_firstChild = added;
+        added->m_previousSibling = added;
+    }
     return added;
 }
 
 CXmlElement* CXmlElement::RemoveLastChildElement()
 {
-    CXmlElement* const removed = m_lastChild;
-    if (removed) {
-        m_lastChild = removed->m_previousSibling;
-        (m_lastChild ? m_lastChild->m_nextSibling : m_firstChild) = nullptr;
-        removed->m_previousSibling = nullptr;
-        removed->m_parent = nullptr;
+    CXmlElement* const removed = GetLastElement();
+    if (!removed) {
+        return nullptr;
+    }
+    if (removed == m_firstChild) {
+        m_firstChild = nullptr;
+    } else {
+        m_firstChild->m_previousSibling = removed->m_previousSibling;
+        removed->m_previousSibling->m_nextSibling = nullptr;
+    }
+    removed->m_previousSibling = nullptr;
+    removed->m_parent = nullptr;
+    if (DocumentStorage* const storage = removed->GetStorage()) {
+        storage->ReleaseNode();
     }
     return removed;
+}
+
+void CXmlElement::DeleteAttributes() noexcept
+{
+    if (!m_lastAttribute) {
+        return;
+    }
+    CXmlAttribute* attribute = std::exchange(m_lastAttribute->m_next, nullptr);
+    while (attribute) {
+        delete std::exchange(attribute, attribute->m_next);
+    }
+    m_lastAttribute = nullptr;
 }
 
 void CXmlElement::AddAttribute(
     const std::wstring& localName, const std::wstring& value, const std::wstring& namespaceUri)
 {
-    DocumentStorage* const storage = GetStorage();
-    if (!storage) {
+    if (DocumentStorage* const storage = GetStorage()) {
+        AddNamedAttribute(storage->GetNames().Intern(namespaceUri, localName), value);
+    } else {
         AppendAttribute(std::make_unique<CXmlAttribute>(this, localName, value, namespaceUri));
-        return;
     }
-    const XmlName& name = storage->GetNames().Intern(namespaceUri, localName);
-    std::unique_ptr<CXmlAttribute> attribute(new (storage->GetAttributePool()) CXmlAttribute(this, name));
-    attribute->m_value = value;
-    AppendAttribute(std::move(attribute));
 }
 
-void CXmlElement::AddParsedAttribute(const XmlName& name, const Utf16Unit* value)
-{
-    AssignUtf16(AddParsedAttribute(name), value, Utf16Length(value));
-}
-
-std::wstring& CXmlElement::AddParsedAttribute(const XmlName& name)
+void CXmlElement::AddNamedAttribute(const XmlName& name, const std::wstring& value)
 {
     std::unique_ptr<CXmlAttribute> attribute(new (name.storage->GetAttributePool()) CXmlAttribute(this, name));
-    std::wstring& value = attribute->m_value;
+    attribute->m_value.AppendCompact(name.storage, value.data(), value.size());
     AppendAttribute(std::move(attribute));
-    return value;
+}
+
+void CXmlElement::AddParsedAttribute(const XmlName& name, const Utf16Unit* value, std::size_t length)
+{
+    std::unique_ptr<CXmlAttribute> attribute(new (name.storage->GetAttributePool()) CXmlAttribute(this, name));
+    attribute->m_value.AssignParsed(*name.storage, value, length);
+    AppendAttribute(std::move(attribute));
 }
 
 void CXmlElement::AppendAttribute(std::unique_ptr<CXmlAttribute> attribute)
 {
-    m_attributes.push_back(attribute.get());
-    static_cast<void>(attribute.release());
+    if (m_text.ListsAttributes()) {
+        m_text.GetForms(GetStorage()).attributes.push_back(attribute.get());
+    }
+    CXmlAttribute* const added = attribute.release();
+    if (m_lastAttribute) {
+        added->m_next = std::exchange(m_lastAttribute->m_next, added);
+    }
+    m_lastAttribute = added;
 }
 
 void CXmlElement::AppendText(const wchar_t* text, unsigned long length)
 {
     if (text) {
-        ReserveAmortised(m_text, length);
-        m_text.append(text, length);
+        m_text.AppendCompact(GetStorage(), text, length);
     }
 }
 
@@ -187,23 +213,38 @@ const std::wstring& CXmlElement::GetLocalName() const
 
 const std::wstring& CXmlElement::GetText() const
 {
-    return m_text;
+    return m_text.GetForms(GetStorage()).text;
 }
 
 const std::vector<CXmlAttribute*>& CXmlElement::GetAttributes() const
 {
-    return m_attributes;
+    NodeForms& forms = m_text.GetForms(GetStorage());
+    if (!forms.listsAttributes) {
+        for (CXmlAttribute* attribute = NodeAccess::GetFirstAttribute(*this); attribute;
+             attribute = NodeAccess::GetNextAttribute(*this, *attribute)) {
+            forms.attributes.push_back(attribute);
+        }
+        forms.listsAttributes = true;
+    }
+    return forms.attributes;
 }
 
 const std::wstring& CXmlElement::GetAttribute(const std::wstring& localName, const std::wstring& namespaceUri) const
 {
-    for (const CXmlAttribute* attribute : m_attributes) {
-        if (attribute->GetLocalName() == localName && attribute->GetNamespaceURI() == namespaceUri) {
-            return attribute->GetValue();
-        }
+    if (const CXmlAttribute* const attribute = FindAttribute(localName, namespaceUri)) {
+        return attribute->GetValue();
     }
     static const std::wstring empty;
     return empty;
+}
+
+CXmlAttribute* CXmlElement::FindAttribute(const std::wstring& localName, const std::wstring& namespaceUri) const
+{
+    CXmlAttribute* attribute = NodeAccess::GetFirstAttribute(*this);
+    while (attribute && (attribute->GetLocalName() != localName || attribute->GetNamespaceURI() != namespaceUri)) {
+        attribute = NodeAccess::GetNextAttribute(*this, *attribute);
+    }
+    return attribute;
 }
 
 std::wstring CXmlElement::GetQName() const

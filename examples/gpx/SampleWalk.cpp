@@ -28,7 +28,7 @@ constexpr char HEAD[] = R"(<?xml version="1.0" encoding="UTF-8"?>
     <keywords>walk, hill, ridge</keywords>
     <bounds minlat="47.0295" minlon="11.3990" maxlat="47.0785" maxlon="11.4345"/>
     <extensions>
-      <body:sensor model="Pulse 3 &quot;red&quot;" body:id="17"><body:place>chest</body:place><body:strap/></body:sensor>
+      <body:sensor model="Pulse 3 &lt;red&gt;" body:id="17"><body:place>chest</body:place><body:strap/></body:sensor>
       <weather xmlns="urn:example:weather" xml:lang="de">Föhn &amp; Sonne<gust unit="km/h">40</gust></weather>
     </extensions>
   </metadata>

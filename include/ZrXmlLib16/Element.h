@@ -111,6 +111,7 @@ private:
     void TakeAttributes(const CXmlElement& element);
     void TakeNameAndText(const CXmlElement& element);
     void CopyOwnValues(const CElement& element);
+    bool HasSameName(const CElement& other) const;
 
     std::wstring m_text;
     std::wstring m_namespace;

@@ -106,6 +106,7 @@ private:
 
     explicit CElementCol(std::shared_ptr<const NamespaceRule> rule);
     CXmlElement* ReadItem(CXmlElement* element, const CSerializationContext& context);
+    void WriteChildren(CXmlWriter& writer, const CSerializationContext& context) const;
 
     std::shared_ptr<const NamespaceRule> m_rule;
 };

@@ -77,6 +77,8 @@ public:
     void WriteAttributeNil() override;
 
 private:
+    friend class CXmlObjectBase;
+
     /// An array that has been begun and not ended. Its items have the same name.
     struct OpenArray {
         const CXmlWriterContext* owner;
@@ -111,6 +113,8 @@ private:
     std::size_t m_openArrays;
     std::wstring m_indentation;    // the indent characters repeated, as far as needed up to now
     std::wstring m_qualifiedValue; // reused
+    /// Whether the stream takes the text piece by piece, which nobody sees of one in memory. Files get it at the end.
+    bool m_flushesOften;
 };
 
 } // namespace ZrXmlLib16

@@ -59,6 +59,21 @@ public:
     operator T*() const { return m_object; }
     T* GetPtr() const { return m_object; }
 
+    /// Gives up the object without a Release; the caller then owns the reference. Null when there is none.
+    T* Detach() noexcept
+    {
+        T* object = m_object;
+        m_object = nullptr;
+        return object;
+    }
+    /// Takes over a reference that the caller owns. @param object may be null.
+    static CSmartPtr Attach(T* object) noexcept
+    {
+        CSmartPtr taken;
+        taken.m_object = object;
+        return taken;
+    }
+
 private:
     void Acquire()
     {

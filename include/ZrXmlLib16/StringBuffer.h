@@ -46,6 +46,7 @@ public:
 
 private:
     friend class CTextStream;
+    friend class CUtf8TextStream;
 
     void AddBlock();
     void AddBlock(unsigned long capacity);

@@ -57,6 +57,9 @@ protected:
     void EmptyText();
 
 private:
+    friend class CUtf8TextStream;
+
+    CTextStream(XmlEncoding encoding, unsigned long blockSize);
     CBinaryData EncodeUtf8() const;
     CBinaryData WidenFirstQuarter();
     CBinaryData CopyStorage() const;

@@ -3,6 +3,7 @@
 #define ZRXMLLIB16_XMLATTRIBUTE_H
 
 #include "ZrXmlLib16/Export.h"
+#include "ZrXmlLib16/NodeText.h"
 
 #include <cstddef>
 #include <memory>
@@ -47,14 +48,17 @@ public:
 
 private:
     friend class CXmlElement;
+    friend class NodeAccess;
 
     CXmlAttribute(CXmlElement* owner, const XmlName& name);
+    DocumentStorage* GetStorage() const;
     static void* operator new(std::size_t size, NodePool& pool);
     static void operator delete(void* node, NodePool& pool);
 
     CXmlElement* m_owner;
     std::unique_ptr<const XmlName, XmlNameRelease> m_name;
-    std::wstring m_value;
+    CXmlAttribute* m_next; // of the same element, in a ring
+    mutable NodeText m_value;
 };
 
 } // namespace ZrXmlLib16

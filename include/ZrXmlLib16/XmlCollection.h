@@ -29,7 +29,7 @@ public:
 
     private:
         friend class CXmlCollection;
-        explicit CNode(CXmlObjectBase* item);
+        explicit CNode(CSmartPtr<CXmlObjectBase> item);
 
         CSmartPtr<CXmlObjectBase> m_item;
         CNode* m_next;
@@ -79,7 +79,7 @@ protected:
     CXmlCollection& operator=(const CXmlCollection&) = delete;
 
 private:
-    CNode* Insert(CXmlObjectBase* item, CNode* before);
+    CNode* Insert(CSmartPtr<CXmlObjectBase> item, CNode* before);
     void RemoveAt(CNode* node, int index);
     void RequireUnchanged(unsigned long changes) const;
     CNode* RequireNode(const CXmlObjectBase* item) const;

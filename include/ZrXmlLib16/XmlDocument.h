@@ -128,6 +128,7 @@ private:
     std::unique_ptr<unsigned char[]> m_inputBuffer;   // null when the input is the caller's
     const unsigned char* m_input;
     unsigned long m_inputSize;
+    unsigned long m_elementCount; // begun since the last clean-up
     SchemaType m_schemaType;
     bool (*m_elementEnd)(CXmlElement*);
     const CSerializationContext* m_context;

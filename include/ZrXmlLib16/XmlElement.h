@@ -19,7 +19,8 @@ class DocumentStorage;
 ///
 /// An element owns its attributes and children. Trees may be of any depth: nothing here recurses. An element that was
 /// taken out of the tree with RemoveLastChildElement belongs to the caller, who deletes it; it may outlive its document
-/// only to be deleted or read, not for prefixes and paths. A document and its elements belong to one thread at a time.
+/// only to be deleted or read, not for prefixes and paths. A document and its elements belong to one thread at a time,
+/// for reading too.
 class ZRXML_API CXmlElement {
 public:
     /// @param document not owned, may be null: such an element knows no prefixes.
@@ -69,16 +70,19 @@ private:
     friend class CXmlDocument;
     friend class CExpatReader;
     friend class CFastInfosetReader;
+    friend class NodeAccess;
 
     CXmlElement(CXmlDocument* document, CXmlElement* parent, const XmlName* name);
     static void* operator new(std::size_t size, NodePool& pool);
     static void operator delete(void* node, NodePool& pool);
 
     CXmlElement* AppendChild(std::unique_ptr<CXmlElement> child);
+    CXmlElement* GetLastElement() const { return m_firstChild ? m_firstChild->m_previousSibling : nullptr; }
+    CXmlAttribute* FindAttribute(const std::wstring& localName, const std::wstring& namespaceUri) const;
     void AppendAttribute(std::unique_ptr<CXmlAttribute> attribute);
-    void AddParsedAttribute(const XmlName& name, const unsigned short* value);
-    /// @return the empty value, for the reader to fill.
-    std::wstring& AddParsedAttribute(const XmlName& name);
+    void DeleteAttributes() noexcept;
+    void AddParsedAttribute(const XmlName& name, const unsigned short* value, std::size_t length);
+    void AddNamedAttribute(const XmlName& name, const std::wstring& value);
     DocumentStorage* GetStorage() const;
     void SetName(const std::wstring& namespaceUri, const std::wstring& localName);
     bool HasSameQName(const CXmlElement& sibling) const;
@@ -86,12 +90,11 @@ private:
     CXmlDocument* m_document;
     CXmlElement* m_parent;
     CXmlElement* m_nextSibling;
+    CXmlElement* m_previousSibling; // of the first child: the last one
     CXmlElement* m_firstChild;
-    CXmlElement* m_lastChild;
-    std::vector<CXmlAttribute*> m_attributes;
-    std::wstring m_text;
     std::unique_ptr<const XmlName, XmlNameRelease> m_name;
-    CXmlElement* m_previousSibling;
+    CXmlAttribute* m_lastAttribute; // whose next is the first
+    mutable NodeText m_text;
 };
 
 } // namespace ZrXmlLib16

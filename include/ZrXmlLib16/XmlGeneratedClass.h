@@ -118,13 +118,13 @@ private:
         CXmlElement* element, CXmlElement* cursor, const CSerializationContext& context, bool isOptional);
     CXmlElement* FinishChoice(const CSerializationContext& context, CXmlElement* parent, CXmlElement* entry,
         CXmlElement* cursor, ZrXmlLib16Data::XmlElementType type, bool chosen, bool isOptional);
-    bool ValidateAll(const CSerializationContext& context, CXmlElement* parent, const std::wstring& target,
+    bool ValidateAll(const CSerializationContext& context, CXmlElement* parent, const wchar_t* target,
         ZrXmlLib16Data::XmlElementType type, const CSeenFlags& found);
     bool IsChoiceAllowedEmpty(const CSerializationContext& context) const;
     bool IsMatchedByNameOnly() const;
     /// Offers the cursor to a record and commits the movement only when the record is satisfied.
     bool Offer(ZrXmlLib16Data::CElementInfo* record, const CSerializationContext& context, CXmlElement* parent,
-        CXmlElement*& cursor, const std::wstring& target, ZrXmlLib16Data::XmlElementType type);
+        CXmlElement*& cursor, const wchar_t* target, ZrXmlLib16Data::XmlElementType type);
     void UnsetAlternative(const ZrXmlLib16Data::CElementInfo& record);
     void UnsetAlternatives(int propertyId, bool isProperty);
 

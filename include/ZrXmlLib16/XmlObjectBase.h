@@ -193,7 +193,8 @@ protected:
 private:
     void WriteDocument(CTextStream& stream, bool includeHeader, bool formatted, EOLType eol,
         const CSerializationContext& context) const;
-    void WriteJson(CTextStream& stream, bool formatted, EOLType eol, const CSerializationContext& context) const;
+    void WriteJson(
+        CTextStream& stream, bool formatted, EOLType eol, const CSerializationContext& context, bool isInMemory) const;
     void ReadConverted(CBinaryData bytes, const CSerializationContext& context);
     void ReadElement(const CXmlElement* element, const CSerializationContext& context);
 

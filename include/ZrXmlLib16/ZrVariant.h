@@ -28,7 +28,11 @@ class CXmlCollectionBase;
 class ZRXML_API ZrVariant {
 public:
     /// Invalid: type none, not nil.
-    ZrVariant();
+    ZrVariant()
+        : m_nil(false)
+        , m_type(ItemType_none)
+    {
+    }
     ZrVariant(const ZrVariant& other);
     virtual ~ZrVariant();
     ZrVariant& operator=(const ZrVariant& other);
@@ -40,7 +44,12 @@ public:
     void SetNil();
     bool IsNil() const { return m_nil; }
     /// Drops the value; the variant is then invalid.
-    void Clear();
+    void Clear()
+    {
+        if (IsValid()) {
+            DropValue();
+        }
+    }
 
     void SetHexBinary(const CBinaryData& value);
     const CBinaryData& GetHexBinary() const;
@@ -91,6 +100,9 @@ public:
     /// @param text not null; may lie in the variant's own string.
     void SetString(const wchar_t* text, unsigned long length);
     const std::wstring& GetString() const;
+    /// Moves the string out, which a setter may do with the value it is given; empty when the value is none. The
+    /// variant stays a string, of unspecified text.
+    std::wstring TakeString();
     void SetBoolean(bool value) { Restart(ItemType_boolean).boolean = value; }
     bool GetBoolean() const { return m_value.ui1 != 0; }
     void SetDecimal(const CDecimal& value);
@@ -99,7 +111,11 @@ public:
     const CBigInteger& GetInteger() const;
     /// Takes a reference to the object. @param value may be null.
     void SetXmlObject(CXmlObjectBase* value);
+    /// The same, with the reference that the caller has.
+    void AdoptXmlObject(CSmartPtr<CXmlObjectBase> value);
     CSmartPtr<CXmlObjectBase> GetXmlObject() const;
+    /// Moves the reference out, so that the variant holds null afterwards; null when the value is no object.
+    CSmartPtr<CXmlObjectBase> TakeXmlObject();
     /// Takes a reference to the collection. @param value may be null.
     void SetXmlCollection(CXmlCollectionBase* value);
     CSmartPtr<CXmlCollectionBase> GetXmlCollection() const;
@@ -164,6 +180,7 @@ private:
         m_type = type;
         return m_value;
     }
+    void DropValue();
     void CopyFrom(const ZrVariant& other);
     void MoveFrom(ZrVariant& other) noexcept;
     template <class T> void Store(ItemType type, T Value::*member, T value);

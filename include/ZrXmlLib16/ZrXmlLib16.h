@@ -2,7 +2,7 @@
 #ifndef ZRXMLLIB16_ZRXMLLIB16_H
 #define ZRXMLLIB16_ZRXMLLIB16_H
 
-/// Every public header of both namespaces, and nothing else.
+/// Every public header of both namespaces but XmlFiles.h, which is dear to compile, and nothing else.
 
 #include "ZrXmlLib16/Attribute.h"
 #include "ZrXmlLib16/AttributeCol.h"
@@ -12,6 +12,7 @@
 #include "ZrXmlLib16/BinaryStream.h"
 #include "ZrXmlLib16/ClassfactoryBase.h"
 #include "ZrXmlLib16/CompressionType.h"
+#include "ZrXmlLib16/ContextScope.h"
 #include "ZrXmlLib16/Conversions.h"
 #include "ZrXmlLib16/DateTime.h"
 #include "ZrXmlLib16/DateTimeSpan.h"
@@ -20,6 +21,7 @@
 #include "ZrXmlLib16/Element.h"
 #include "ZrXmlLib16/ElementCol.h"
 #include "ZrXmlLib16/Encoder.h"
+#include "ZrXmlLib16/ErrorReport.h"
 #include "ZrXmlLib16/Export.h"
 #include "ZrXmlLib16/FIVocabulary.h"
 #include "ZrXmlLib16/FInfoDecl.h"
@@ -44,11 +46,13 @@
 #include "ZrXmlLib16/JsonTextWriter.h"
 #include "ZrXmlLib16/NamespaceAliasMap.h"
 #include "ZrXmlLib16/PrimitiveRestrictions.h"
+#include "ZrXmlLib16/Ranges.h"
 #include "ZrXmlLib16/SchemaType.h"
 #include "ZrXmlLib16/SerializationContext.h"
 #include "ZrXmlLib16/SmartPtr.h"
 #include "ZrXmlLib16/StringBuffer.h"
 #include "ZrXmlLib16/TextStream.h"
+#include "ZrXmlLib16/Utf8.h"
 #include "ZrXmlLib16/Version.h"
 #include "ZrXmlLib16/WhitespaceUtils.h"
 #include "ZrXmlLib16/XmlAttribute.h"
@@ -60,6 +64,7 @@
 #include "ZrXmlLib16/XmlGeneratedClass.h"
 #include "ZrXmlLib16/XmlObjectBase.h"
 #include "ZrXmlLib16/XmlObjectHelper.h"
+#include "ZrXmlLib16/XmlStreams.h"
 #include "ZrXmlLib16/XmlTextWriter.h"
 #include "ZrXmlLib16/XmlTypeCollection.h"
 #include "ZrXmlLib16/XmlWriter.h"

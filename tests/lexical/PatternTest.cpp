@@ -4,6 +4,7 @@
 #include "ZrXmlLib16/ZrException.h"
 #include "support/TestText.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -69,6 +70,26 @@ TEST(Pattern, TranslatesTheNameAndBlockEscapes)
     Expect(L"\\p{Lu}\\P{Lu}", {L"\u00c9\u00e9"}, {});
 }
 
+// What only one of the engines accepts, or reads in another way, unless its notation is adapted.
+TEST(Pattern, EnginesAgreeOnDoubtfulNotation)
+{
+    Expect(L"[\\w-.]+", {L"a-b.c"}, {L"a/b"});
+    Expect(L"[\\p{L}-_\\d-]+", {L"a-_1"}, {L".", L"\\"});
+    Expect(L"[[:digit:]-z]+", {L"1-z"}, {L"a"});
+    Expect(L"[^]\\s-a]", {L"b"}, {L"]", L" ", L"-", L"a"});
+    Expect(L"[]\\S-]", {L"]", L"-"}, {L" "});
+    Expect(L"[\\d--/]", {L"1", L".", L"/"}, {L",", L"0-"});
+    Expect(L"a{,2}b{ 1 }{", {L"a{,2}b{ 1 }{"}, {L"aab{"});
+    Expect(L"\\x{e9}{2}a{1}b{1,}c{1,2}", {L"\u00e9\u00e9abbc"}, {});
+    Expect(L"[\\w{,2}-]+\\{", {L"a{,2}-{"}, {});
+    Expect(L"\\q\\y[\\j-\\m][\\R]", {L"qylR"}, {L"qyiR"});
+    Expect(L"\\Q[\\d-a{,\\E[\\d-a]", {L"[\\d-a{,-"}, {L"[\\d-a{,b"});
+    Expect(L"[\\\\w-z]", {L"x", L"\\"}, {L"-", L"a"});
+    for (const char* pattern : {"[\\d-z-a]", "[a-\\d]", "\\p{IsGreek}", "a{2,1}", "[b-a]", "a\\"}) {
+        EXPECT_THROW(CXmlObjectHelper::TestRegEx(pattern, L"x"), CZrException) << pattern;
+    }
+}
+
 TEST(Pattern, CharactersBeyondAscii)
 {
     Expect(L"\u00e9\u20ac", {L"\u00e9\u20ac"}, {});
@@ -79,8 +100,10 @@ TEST(Pattern, CharactersBeyondAscii)
 
 TEST(Pattern, MessagesOfBadPatternsAndViolations)
 {
-    EXPECT_EQ(MessageOf<CZrException>([] { CXmlObjectHelper::TestRegEx("\\i(\xC3\xA9", L"x"); }),
-        L"Invalid Regular Expression: \\i(\u00e9 Error: 'missing )'");
+    // The reason is each engine's own.
+    const std::wstring message = L"Invalid Regular Expression: \\i(\u00e9 Error: '";
+    EXPECT_THAT(MessageOf<CZrException>([] { CXmlObjectHelper::TestRegEx("\\i(\xC3\xA9", L"x"); }),
+        testing::AnyOf(message + L"missing )'", message + L"missing closing parenthesis'"));
     CPrimitiveRestrictions facets;
     facets.m_pattern = L"[\u00e9";
     EXPECT_EQ(MessageOf<CZrException>([&] { CXmlObjectHelper::CheckRestrictionForstring(L"item", L"v", facets); }),
@@ -116,6 +139,7 @@ TEST(Pattern, HopelessSearchesEndSoon)
     OnSmallStack([] {
         EXPECT_FALSE(CXmlObjectHelper::TestRegEx("(a|aa)+", std::wstring(60, L'a') + L'!'));
         EXPECT_FALSE(CXmlObjectHelper::TestRegEx("(a|aa)+", std::wstring(5000, L'a') + L'!'));
+        EXPECT_FALSE(CXmlObjectHelper::TestRegEx("(a+)+$", std::wstring(60, L'a') + L'!'));
         EXPECT_FALSE(CXmlObjectHelper::TestRegEx("((a+)+)+", std::wstring(40, L'a') + L'!'));
     });
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));

@@ -27,6 +27,21 @@ add_conversion_test(sections_escaped ${data}/sections.xml ${data}/sections.escap
 add_conversion_test(gzip ${data}/order.xml ${data}/order.converted.xml 1f8b --compress=gzip)
 add_conversion_test(zlib ${data}/order.xml ${data}/order.converted.xml 78 --compress=zlib)
 
+# Through another format and back gives what the direct way gives, once indentation is gone.
+function(add_detour_test name options input expected)
+  add_test(NAME zrconvert_${name} COMMAND sh -c
+    "\"$1\" $2 \"$3\" | \"$1\" --format - | diff - \"$4\""
+    sh $<TARGET_FILE:zrconvert> ${options} ${input} ${expected})
+endfunction()
+add_detour_test(through_json "--to json" ${data}/order.xml ${data}/order.formatted.xml)
+add_detour_test(through_formatted_json "--to json --format" ${data}/order.xml ${data}/order.formatted.xml)
+add_detour_test(through_fast_infoset "--to finf" ${data}/order.xml ${data}/order.formatted.xml)
+add_detour_test(through_compressed_fast_infoset "--to finf --compress gzip" ${data}/order.xml ${data}/order.formatted.xml)
+add_detour_test(through_compressed_json "--to json --compress zlib" ${data}/order.xml ${data}/order.formatted.xml)
+add_detour_test(escapes_of_json "--from json" ${data}/escapes.json ${data}/escapes.xml)
+add_conversion_test(json_plain ${data}/plain.json ${data}/plain.json "" --to json --json-mode 0)
+add_conversion_test(json_sections ${data}/sections.xml ${data}/sections.json "" --to json --keep-cdata)
+
 # Through pipes, from and to standard streams, compressed in between.
 add_test(NAME zrconvert_standard_streams COMMAND sh -c
   "cat \"$2\" | \"$1\" --compress gzip - | \"$1\" - - | cmp - \"$3\""
@@ -49,6 +64,13 @@ add_report_test(short_compressed 1 error "^zrconvert: cannot write standard outp
   --compress zlib ${made}/short.xml)
 add_report_test(disk_full 1 error "^zrconvert: cannot write /dev/full\nNo space left on device\n$"
   ${made}/short.xml /dev/full)
+file(WRITE "${made}/two.json" "{\"a\": 1, \"b\": 2}")
+file(WRITE "${made}/cut.json" "{\"a\":\n[1,")
+add_report_test(json_roots 1 error "must hold exactly one root element" ${made}/two.json)
+add_report_test(json_cut 1 error "Expected Array terminator character '\\]' at line 2, position 3.\nPath: ..a\\[1\\]\n$"
+  ${made}/cut.json)
+add_report_test(not_fast_infoset 1 error "not a Fast Infoset document" --from finf ${data}/order.xml)
+add_report_test(unknown_mode 2 error "--json-mode does not know '3'" --json-mode 3 ${made}/short.xml)
 add_report_test(no_input 2 error "^zrconvert: no input is named\n" --format)
 add_report_test(three_files 2 error "more than two files" a b c)
 add_report_test(unknown_option 2 error "unknown option: --bogus\n" --bogus ${made}/short.xml)
@@ -56,5 +78,5 @@ add_report_test(unknown_letter 2 error "unknown option: -q\n" ${made}/short.xml 
 add_report_test(unknown_format 2 error "--to does not know 'text'" --to text ${made}/short.xml)
 add_report_test(unknown_line_end 2 error "--eol does not know 'cr'" --eol=cr ${made}/short.xml)
 add_report_test(missing_value 2 error "needs a value: --compress" ${made}/short.xml --compress)
-add_report_test(help 0 output "^Usage: .*--from auto.xml .*--keep-cdata.*Exit status" --help)
+add_report_test(help 0 output "^Usage: .*--from auto.xml.json.finf .*--keep-cdata.*Exit status" --help)
 add_report_test(version 0 output "^zrconvert ${PROJECT_VERSION}\n$" --version)

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZRXMLLIB16_NODETEXT_H
+#define ZRXMLLIB16_NODETEXT_H
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace ZrXmlLib16 {
+
+class CXmlAttribute;
+class DocumentStorage;
+
+/// What a node shows to its callers by reference. Made when somebody asks for it, and then the only place of the text.
+struct NodeForms {
+    std::wstring text;
+    std::vector<CXmlAttribute*> attributes;
+    bool listsAttributes;     // whether `attributes` is in use
+    DocumentStorage* storage; // whose list of forms this is in; null for none
+    NodeForms* next;
+    NodeForms* previous;
+};
+
+/// The text of an element or attribute: 16-bit units in the memory of the document as the parser delivered them, or the
+/// wide form in a NodeForms of its own.
+///
+/// The owner passes its document's storage with every operation, null when it was built by hand.
+class NodeText {
+public:
+    NodeText() noexcept
+        : m_units(nullptr)
+        , m_length(0)
+        , m_capacity(0)
+    {
+    }
+    NodeText(const NodeText&) = delete;
+    NodeText& operator=(const NodeText&) = delete;
+    /// Forms are freed by Release or with the storage.
+    ~NodeText() = default;
+
+    bool IsEmpty() const noexcept { return IsWide() ? m_forms->text.empty() : m_length == 0; }
+    /// Appends units, carriage returns left out.
+    void AppendUnits(DocumentStorage* storage, const unsigned short* units, std::size_t count);
+    /// Appends text as it is; the text becomes wide.
+    void AppendWide(DocumentStorage* storage, const wchar_t* text, std::size_t length);
+    /// Appends text as it is, in units where it consists of units.
+    void AppendCompact(DocumentStorage* storage, const wchar_t* text, std::size_t length);
+    /// Takes the units of the value of an attribute as they are. The text is empty before.
+    void AssignParsed(DocumentStorage& storage, const unsigned short* units, std::size_t length);
+    bool ListsAttributes() const noexcept { return IsWide() && m_forms->listsAttributes; }
+    /// The wide form, made at the first call; it is then updated in place.
+    NodeForms& GetForms(DocumentStorage* storage);
+    /// The text; widened into the storage's scratch unless the wide form exists. Valid until either changes.
+    /// @param storage may be null when the text is wide or empty.
+    const std::wstring& Borrow(DocumentStorage* storage) const;
+    std::wstring Copy() const;
+    bool Contains(wchar_t character) const noexcept;
+    /// Frees the forms, and leaves the text empty.
+    void Release() noexcept;
+
+private:
+    static constexpr std::uint32_t WIDE = UINT32_MAX;
+
+    bool IsWide() const noexcept { return m_capacity == WIDE; }
+    unsigned short* MakeRoom(DocumentStorage& storage, std::size_t count);
+
+    union {
+        unsigned short* m_units;
+        NodeForms* m_forms; // when the capacity is WIDE
+    };
+    std::uint32_t m_length;
+    std::uint32_t m_capacity;
+};
+
+} // namespace ZrXmlLib16
+
+#endif

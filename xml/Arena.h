@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#ifndef XML_ARENA_H
+#define XML_ARENA_H
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace ZrXmlLib16 {
+
+/// Memory that is handed out piece by piece and given back as a whole. Never destroys what lies in it.
+class Arena {
+public:
+    /// @param expectedSize how much will be needed, as far as that is known; it is taken in one piece.
+    explicit Arena(std::size_t expectedSize) noexcept
+        : m_expectedSize(expectedSize)
+    {
+    }
+    Arena(const Arena&) = delete;
+    Arena& operator=(const Arena&) = delete;
+
+    /// @param alignment a power of two, at most that of operator new.
+    void* Allocate(std::size_t size, std::size_t alignment)
+    {
+        const std::size_t padding = (~reinterpret_cast<std::uintptr_t>(m_free) + 1) & (alignment - 1);
+        if (size + padding > static_cast<std::size_t>(m_end - m_free)) {
+            return AllocateFromNewChunk(size);
+        }
+        unsigned char* const start = m_free + padding;
+        m_free = start + size;
+        return start;
+    }
+
+    /// Makes a piece longer in its place: only the newest one, and only while there is room behind it.
+    /// @param pieceEnd the end of the piece.
+    bool Extend(const void* pieceEnd, std::size_t extra) noexcept
+    {
+        if (pieceEnd != m_free || extra > static_cast<std::size_t>(m_end - m_free)) {
+            return false;
+        }
+        m_free += extra;
+        return true;
+    }
+
+private:
+    [[gnu::noinline]] void* AllocateFromNewChunk(std::size_t size);
+
+    unsigned char* m_free = nullptr; // the untouched rest of the newest chunk
+    unsigned char* m_end = nullptr;
+    const std::size_t m_expectedSize;
+    std::size_t m_total = 0; // bytes of all chunks
+    std::vector<std::unique_ptr<unsigned char[]>> m_chunks;
+};
+
+} // namespace ZrXmlLib16
+
+#endif

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#ifndef XML_NODEACCESS_H
+#define XML_NODEACCESS_H
+
+#include "ZrXmlLib16/ItemType.h"
+#include "ZrXmlLib16/WhitespaceUtils.h"
+#include "ZrXmlLib16/XmlElement.h"
+
+namespace ZrXmlLib16 {
+
+class ClassMemory;
+class ZrVariant;
+
+/// How the walks and the builders of trees reach nodes without the public forms, which take memory of their own as soon
+/// as somebody asks for them.
+class NodeAccess {
+public:
+    /// Null for an element that was built by hand.
+    static ClassMemory* GetClassMemory(const CXmlElement& element);
+
+    /// The attributes in document order; null ends them.
+    static CXmlAttribute* GetFirstAttribute(const CXmlElement& element)
+    {
+        return element.m_lastAttribute ? element.m_lastAttribute->m_next : nullptr;
+    }
+    static CXmlAttribute* GetNextAttribute(const CXmlElement& element, const CXmlAttribute& attribute)
+    {
+        return &attribute == element.m_lastAttribute ? nullptr : attribute.m_next;
+    }
+
+    static bool HasText(const CXmlElement& element) { return !element.m_text.IsEmpty(); }
+    /// The text or value, which lies in the document's scratch unless the public form exists: valid until the next call
+    /// for the same document.
+    static const std::wstring& GetText(const CXmlElement& element)
+    {
+        return element.m_text.Borrow(element.GetStorage());
+    }
+    static const std::wstring& GetValue(const CXmlAttribute& attribute)
+    {
+        return attribute.m_value.Borrow(attribute.GetStorage());
+    }
+    static std::wstring CopyText(const CXmlElement& element) { return element.m_text.Copy(); }
+    static std::wstring CopyAttribute(
+        const CXmlElement& element, const std::wstring& localName, const std::wstring& namespaceUri)
+    {
+        const CXmlAttribute* const attribute = element.FindAttribute(localName, namespaceUri);
+        return attribute ? attribute->m_value.Copy() : std::wstring();
+    }
+    /// Parse the text or value and store it.
+    static void ParseText(
+        const CXmlElement& element, ItemType type, CWhitespaceUtils::WhitespaceRule rule, ZrVariant& result)
+    {
+        Parse(element.m_text, element.GetStorage(), type, rule, result);
+    }
+    static void ParseValue(
+        const CXmlAttribute& attribute, ItemType type, CWhitespaceUtils::WhitespaceRule rule, ZrVariant& result)
+    {
+        Parse(attribute.m_value, attribute.GetStorage(), type, rule, result);
+    }
+
+    /// Appends units of UTF-16, carriage returns left out.
+    static void AppendUnits(CXmlElement& element, const unsigned short* units, std::size_t count)
+    {
+        element.m_text.AppendUnits(element.GetStorage(), units, count);
+    }
+
+private:
+    static void Parse(const NodeText& text, DocumentStorage* storage, ItemType type,
+        CWhitespaceUtils::WhitespaceRule rule, ZrVariant& result);
+};
+
+} // namespace ZrXmlLib16
+
+#endif

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+#include "ZrXmlLib16/NodeText.h"
+
+#include "xml/DocumentStorage.h"
+#include "xml/Utf16Text.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace ZrXmlLib16 {
+
+namespace {
+
+constexpr std::size_t SECOND_CAPACITY = 16;
+constexpr std::size_t LONGEST_UNITS = UINT32_MAX - 1;
+
+} // namespace
+
+/// Room for more units behind the text; null when the text has to become wide.
+unsigned short* NodeText::MakeRoom(DocumentStorage& storage, std::size_t count)
+{
+    const std::size_t total = m_length + count;
+    if (total > LONGEST_UNITS || !storage.KeepsTexts()) {
+        return nullptr;
+    }
+    if (total > m_capacity) {
+        Arena& arena = storage.GetArena();
+        const std::size_t missing = (total - m_capacity) * sizeof(*m_units);
+        if (m_length == 0 || !arena.Extend(m_units + m_capacity, missing)) {
+            const std::size_t doubled = m_length == 0 ? total : std::max({2 * total, SECOND_CAPACITY});
+            const std::size_t capacity = std::min(doubled, LONGEST_UNITS);
+            unsigned short* const units =
+                static_cast<unsigned short*>(arena.Allocate(capacity * sizeof(*m_units), alignof(unsigned short)));
+            std::copy_n(m_units, m_length, units);
+            m_units = units;
+            m_capacity = static_cast<std::uint32_t>(capacity);
+        } else {
+            m_capacity = static_cast<std::uint32_t>(total);
+        }
+    }
+    return m_units + m_length;
+}
+
+void NodeText::AppendUnits(DocumentStorage* storage, const unsigned short* units, std::size_t count)
+{
+    unsigned short* const room = storage && !IsWide() ? MakeRoom(*storage, count) : nullptr;
+    if (room) {
+        m_length += static_cast<std::uint32_t>(CopyExcludingCR(room, units, count) - room);
+        return;
+    }
+    std::wstring& text = GetForms(storage).text;
+    ReserveAmortised(text, count);
+    const std::size_t start = text.size();
+    text.resize(start + count);
+    wchar_t* const output = &text[start];
+    text.resize(start + static_cast<std::size_t>(WidenExcludingCR(output, units, count) - output));
+}
+
+void NodeText::AppendWide(DocumentStorage* storage, const wchar_t* text, std::size_t length)
+{
+    std::wstring& own = GetForms(storage).text;
+    ReserveAmortised(own, length);
+    own.append(text, length);
+}
+
+void NodeText::AppendCompact(DocumentStorage* storage, const wchar_t* text, std::size_t length)
+{
+    unsigned short* const room = storage && !IsWide() && IsUtf16(text, length) ? MakeRoom(*storage, length) : nullptr;
+    if (!room) {
+        AppendWide(storage, text, length);
+        return;
+    }
+    std::transform(text, text + length, room, [](wchar_t c) { return static_cast<unsigned short>(c); });
+    m_length += static_cast<std::uint32_t>(length);
+}
+
+void NodeText::AssignParsed(DocumentStorage& storage, const unsigned short* units, std::size_t length)
+{
+    if (length == 0) {
+        return;
+    }
+    unsigned short* const room = MakeRoom(storage, length);
+    if (room) {
+        std::copy_n(units, length, room);
+        m_length = static_cast<std::uint32_t>(length);
+    } else {
+        AssignUtf16(GetForms(&storage).text, units, length);
+    }
+}
+
+NodeForms& NodeText::GetForms(DocumentStorage* storage)
+{
+    if (!IsWide()) {
+        std::unique_ptr<NodeForms> forms(new NodeForms{{}, {}, false, storage, nullptr, nullptr});
+        AssignUtf16(forms->text, m_units, m_length);
+        if (storage) {
+            storage->Link(*forms);
+        }
+        m_forms = forms.release();
+        m_length = 0;
+        m_capacity = WIDE;
+    }
+    return *m_forms;
+}
+
+const std::wstring& NodeText::Borrow(DocumentStorage* storage) const
+{
+    if (IsWide()) {
+        return m_forms->text;
+    }
+    if (!storage) {
+        static const std::wstring empty;
+        return empty;
+    }
+    AssignUtf16(storage->GetScratch(), m_units, m_length);
+    return storage->GetScratch();
+}
+
+std::wstring NodeText::Copy() const
+{
+    return IsWide() ? m_forms->text : std::wstring(m_units, m_units + m_length);
+}
+
+bool NodeText::Contains(wchar_t character) const noexcept
+{
+    if (IsWide()) {
+        return m_forms->text.find(character) != std::wstring::npos;
+    }
+    const unsigned short* const end = m_units + m_length;
+    return std::find(static_cast<const unsigned short*>(m_units), end, character) != end;
+}
+
+void NodeText::Release() noexcept
+{
+    if (IsWide()) {
+        if (m_forms->storage) {
+            m_forms->storage->Unlink(*m_forms);
+        }
+        delete m_forms;
+    }
+    m_units = nullptr;
+    m_length = 0;
+    m_capacity = 0;
+}
+
+} // namespace ZrXmlLib16
