@@ -1,25 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include "benchmarks/Sample.h"
 
+#include "ZrXmlLib16/FastInfosetContext.h"
 #include "ZrXmlLib16/SerializationContext.h"
 
 #include <algorithm>
 #include <stdexcept>
 
 using ZrXmlLib16::CBinaryData;
+using ZrXmlLib16::CompressionType;
 using ZrXmlLib16::CSerializationContext;
+using ZrXmlLib16::CXmlObjectBase;
 
 namespace {
 
-const CSerializationContext& WritingContext()
+CSerializationContext MakeContext(bool compact)
 {
-    static const CSerializationContext context = [] {
-        CSerializationContext made;
-        made.SetDefaultNamespaceURI(PurchaseOrders::namespaceUri);
-        made.SetWriteTypeAttribute(false);
-        return made;
-    }();
+    CSerializationContext context;
+    context.SetDefaultNamespaceURI(PurchaseOrders::namespaceUri);
+    context.SetWriteTypeAttribute(false);
+    if (compact) {
+        context.GetFIContext().SetSuggestedValues();
+    }
     return context;
+}
+
+const CSerializationContext& WritingContext(Form form)
+{
+    static const CSerializationContext plain = MakeContext(false);
+    static const CSerializationContext compact = MakeContext(true);
+    return form == Form::CompactFastInfoset ? compact : plain;
 }
 
 void RequireEqual(const CBinaryData& written, const std::string& expected)
@@ -39,6 +49,33 @@ void RequireEqual(const CBinaryData& written, const std::string& expected)
 
 } // namespace
 
+CBinaryData WriteObject(const CXmlObjectBase& object, Form form, bool indented, CompressionType compression)
+{
+    const CSerializationContext& context = WritingContext(form);
+    switch (form) {
+    case Form::Xml:
+        return object.ToXmlStream(true, indented, ZrXmlLib16::Encoding_UTF8, ZrXmlLib16::EOL_LF, context, compression);
+    case Form::Json:
+        return object.ToJsonStream(indented, ZrXmlLib16::Encoding_UTF8, ZrXmlLib16::EOL_LF, context, compression);
+    default:
+        return object.ToFastInfosetStream(ZrXmlLib16::FInfoDecl_None, context, compression);
+    }
+}
+
+void ReadObject(CXmlObjectBase& object, Form form, const std::string& bytes)
+{
+    if (form == Form::Json) {
+        object.FromJsonStream(BytesOf(bytes), bytes.size());
+    } else {
+        object.FromXmlStream(BytesOf(bytes), bytes.size());
+    }
+}
+
+std::string TextOf(const CBinaryData& bytes)
+{
+    return std::string(reinterpret_cast<const char*>(bytes.GetData()), bytes.GetLength());
+}
+
 const PurchaseOrders::Document& Sample::GetDocument()
 {
     if (!m_document) {
@@ -47,24 +84,44 @@ const PurchaseOrders::Document& Sample::GetDocument()
     return *m_document;
 }
 
+const std::string& Sample::GetBytes(Form form)
+{
+    if (form == Form::Xml) {
+        return GetDocument().bytes;
+    }
+    std::string& bytes = m_otherForms[form];
+    if (bytes.empty()) {
+        bytes = TextOf(Write(form));
+        PurchaseOrders::OrderList objects;
+        ReadObject(objects, form, bytes);
+        RequireSame(objects);
+    }
+    return bytes;
+}
+
 const PurchaseOrders::OrderList& Sample::GetObjects()
 {
     if (!m_objects) {
         auto objects = std::make_unique<PurchaseOrders::OrderList>();
-        Read(*objects);
-        RequireEqual(Write(*objects), GetDocument().bytes);
+        ReadObject(*objects, Form::Xml, GetDocument().bytes);
+        RequireSame(*objects);
         m_objects = std::move(objects);
     }
     return *m_objects;
 }
 
-void Sample::Read(PurchaseOrders::OrderList& objects)
+void Sample::Read(Form form)
 {
-    const std::string& bytes = GetDocument().bytes;
-    objects.FromXmlStream(BytesOf(bytes), bytes.size());
+    PurchaseOrders::OrderList objects;
+    ReadObject(objects, form, GetBytes(form));
 }
 
-CBinaryData Sample::Write(const PurchaseOrders::OrderList& objects) const
+CBinaryData Sample::Write(Form form)
 {
-    return objects.ToXmlStream(true, m_indented, ZrXmlLib16::Encoding_UTF8, ZrXmlLib16::EOL_LF, WritingContext());
+    return WriteObject(GetObjects(), form, m_indented);
+}
+
+void Sample::RequireSame(const PurchaseOrders::OrderList& objects)
+{
+    RequireEqual(WriteObject(objects, Form::Xml, m_indented), GetDocument().bytes);
 }
