@@ -20,6 +20,7 @@
 #include "core/DepthGuard.h"
 #include "core/RootPreparation.h"
 #include "metadata/RecordAccess.h"
+#include "values/BorrowingVariant.h"
 
 namespace ZrXmlLib16 {
 
@@ -117,14 +118,18 @@ void CXmlGeneratedClass::WriteSimpleContent(CXmlWriter* writer) const
     if (info.GetValueProperty() == -1 || info.GetValueType() == ItemType_none) {
         return;
     }
-    ZrVariant value;
+    CBorrowingVariant value;
     ReadProperty(info.GetValueProperty(), value);
     if (value.IsNil()) {
         writer->WriteAttributeNil();
         return;
     }
-    std::wstring& text = ZrXmlLib16Data::CRecordAccess::Scratch(*writer);
-    value.FormatTo(info.GetValueFormat().c_str(), text);
+    const bool isString = value.GetItemType() == ItemType_string;
+    std::wstring& scratch = ZrXmlLib16Data::CRecordAccess::Scratch(*writer);
+    if (!isString) {
+        value.FormatTo(info.GetValueFormat().c_str(), scratch);
+    }
+    const std::wstring& text = isString ? value.GetString() : scratch;
     writer->WriteString(text, value.GetItemType(), false);
 }
 
