@@ -18,6 +18,7 @@
 #include "ZrXmlLib16Data/ParentElementInfo.h"
 #include "core/CoreMessages.h"
 #include "core/DepthGuard.h"
+#include "core/NillableMemory.h"
 #include "core/RootPreparation.h"
 #include "metadata/RecordAccess.h"
 #include "values/BorrowingVariant.h"
@@ -91,7 +92,7 @@ void CXmlGeneratedClass::WriteStartTag(CXmlWriter* writer, bool isRoot, const wc
 
 void CXmlGeneratedClass::WriteContent(CXmlWriter* writer, const CSerializationContext& context, bool isOptional) const
 {
-    const INillable* nillable = dynamic_cast<const INillable*>(this);
+    const INillable* nillable = ZrXmlLib16Data::CRecordAccess::Nillables(*writer).Find(*this);
     if (nillable && nillable->IsNil()) {
         writer->WriteAttributeNil();
         return;
