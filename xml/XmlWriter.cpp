@@ -2,6 +2,7 @@
 #include "ZrXmlLib16/XmlWriter.h"
 
 #include "ZrXmlLib16/ZrException.h"
+#include "core/NillableMemory.h"
 #include "xml/XmlMessages.h"
 #include "xml/XmlNamespaces.h"
 
@@ -27,6 +28,7 @@ int NumberOfPrefix(const std::wstring& prefix)
 CXmlWriter::CXmlWriter(const wchar_t*)
     : m_currentContext(nullptr)
     , m_openContexts(0)
+    , m_nillables(new CNillableMemory)
 {
     m_namespaceMap.emplace(XML_NAMESPACE_URI, L"xml");
 }

@@ -28,9 +28,9 @@ public:
     void Append(wchar_t c) { m_buffer.Append(c); }
     /// @param text NUL-terminated; null is empty text.
     void Append(const wchar_t* text);
-    void Append(const std::wstring& text);
+    void Append(const std::wstring& text) { m_buffer.Append(text.data(), text.size()); }
     /// Appends a run of characters. @param text may be null when the length is 0.
-    void Append(const wchar_t* text, unsigned long length);
+    void Append(const wchar_t* text, unsigned long length) { m_buffer.Append(text, length); }
 
     /// Number of characters collected.
     unsigned long GetLength() const { return m_buffer.GetLength(); }

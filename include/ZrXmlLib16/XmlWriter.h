@@ -18,6 +18,8 @@ class CRecordAccess;
 
 namespace ZrXmlLib16 {
 
+class CNillableMemory;
+
 /// Receives a document as a sequence of events and writes it in some format.
 ///
 /// Order of calls: Open; SetDefaultNamespace and AddNamespace for the root; one element tree (start, attributes, then
@@ -145,6 +147,7 @@ private:
     std::vector<std::unique_ptr<CXmlWriterContext>> m_contexts; // by nesting; closed ones are kept for reuse
     std::size_t m_openContexts;
     std::wstring m_scratch; // for the values that records format
+    std::unique_ptr<CNillableMemory> m_nillables;
 };
 
 } // namespace ZrXmlLib16

@@ -30,6 +30,8 @@ public:
     /// Invalid: type none, not nil.
     ZrVariant()
         : m_nil(false)
+        , m_mayBorrow(false)
+        , m_isBorrowed(false)
         , m_type(ItemType_none)
     {
     }
@@ -99,6 +101,9 @@ public:
     /// Copies a text into the storage of the string that is already there, if there is one.
     /// @param text not null; may lie in the variant's own string.
     void SetString(const wchar_t* text, unsigned long length);
+    /// The same for a string that stays as it is while the variant is in use. A variant that the library reads at once
+    /// refers to it; any other one copies it.
+    void LendString(const std::wstring& value);
     const std::wstring& GetString() const;
     /// Moves the string out, which a setter may do with the value it is given; empty when the value is none. The
     /// variant stays a string, of unspecified text.
@@ -141,6 +146,15 @@ public:
     ZrVariant(ZrVariant&& other) noexcept;
     ZrVariant& operator=(ZrVariant&& other) noexcept;
 
+protected:
+    struct Borrowing { };
+    /// Invalid; refers to the string that it is lent.
+    explicit ZrVariant(Borrowing)
+        : ZrVariant()
+    {
+        m_mayBorrow = true;
+    }
+
 private:
     /// Scalars of all sizes share the first eight bytes; the class members are constructed and destroyed by the
     /// variant.
@@ -167,6 +181,7 @@ private:
         CDateTimeSpan duration;
         CDateTime dateTime;
         std::wstring string;
+        const std::wstring* borrowed; // when m_isBorrowed
         CDecimal decimal;
         CBigInteger integer;
         CSmartPtr<CXmlObjectBase> object;
@@ -181,12 +196,15 @@ private:
         return m_value;
     }
     void DropValue();
+    void Borrow(const std::wstring& value) noexcept;
     void CopyFrom(const ZrVariant& other);
     void MoveFrom(ZrVariant& other) noexcept;
     template <class T> void Store(ItemType type, T Value::*member, T value);
     template <class T> const T& Read(ItemType type, T Value::*member) const;
 
     bool m_nil;
+    bool m_mayBorrow;
+    bool m_isBorrowed; // the type is string, and the value is somebody else's
     ItemType m_type;
     Value m_value;
 };
