@@ -75,7 +75,7 @@ public:
 
     /// The kind.
     DateType GetDateType() const { return m_kind; }
-    /// The year, which may be negative.
+    /// The year; 0 is 1 BC.
     int GetFullYear() const { return m_year; }
     /// 0..23.
     unsigned char GetHour() const { return m_hour; }

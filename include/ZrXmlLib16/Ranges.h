@@ -150,6 +150,7 @@ private:
     int m_index;
 };
 
+/// The iterator of a collection that has `Item` and `GetCount`; no type for others.
 template <class Collection> using IndexIteratorOf =
     std::enable_if_t<std::is_base_of_v<CXmlTypeCollection, Collection> || std::is_base_of_v<CAttributeCol, Collection>,
         IndexIterator<Collection>>;
@@ -160,6 +161,7 @@ template <class Collection> IndexIteratorOf<Collection> begin(const Collection& 
     return {collection, 0};
 }
 
+/// Behind the last of these.
 template <class Collection> IndexIteratorOf<Collection> end(const Collection& collection)
 {
     return {collection, collection.GetCount()};

@@ -86,10 +86,12 @@ protected:
     /// Whether any element record of the class recognises the element.
     bool IsElementInList(const CSerializationContext& context, const CXmlElement* element) const;
 
+    /// @name Choices
     /// Keep at most one alternative of a choice set; called by generated setters, readers and event handlers. An
     /// alternative is unset by storing an invalid variant into its property, or by clearing its collection. Calls that
     /// this gives rise to do nothing.
     /// @{
+
     /// Unsets every alternative but this one.
     void Choice_SelectElement(int propertyId);
     /// Selects the alternative when it is valid, unsets it when it is not.

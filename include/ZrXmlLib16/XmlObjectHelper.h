@@ -82,7 +82,7 @@ public:
     /// Bounds, totalDigits and fractionDigits.
     static void CheckRestrictionFordecimal(
         const wchar_t* name, const CDecimal& value, const CPrimitiveRestrictions& facets);
-    /// Bounds and totalDigits.
+    /// Against the four bounds.
     static void CheckRestrictionForinteger(
         const wchar_t* name, const CBigInteger& value, const CPrimitiveRestrictions& facets);
     /// Length facets, in wide characters, and pattern.
