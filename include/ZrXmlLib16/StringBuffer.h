@@ -23,9 +23,11 @@ public:
     explicit CStringBuffer(unsigned long n);
     virtual ~CStringBuffer();
 
+    /// Appends characters.
     void Append(wchar_t c);
     /// @param text NUL-terminated, may be part of this buffer; null is empty text.
     void Append(const wchar_t* text);
+    /// Appends a text.
     void Append(const std::wstring& text);
     /// Appends a run of characters.
     /// @param text may be part of this buffer; may be null when the length is 0.

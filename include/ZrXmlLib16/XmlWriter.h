@@ -29,7 +29,7 @@ class ZRXML_API CXmlWriter {
 public:
     /// The namespace of the prefix "xml".
     static const std::wstring XML_NAMESPACE;
-    typedef std::map<std::wstring, std::wstring> NamespaceMap; // URI -> prefix
+    typedef std::map<std::wstring, std::wstring> NamespaceMap; ///< URI to prefix
 
     /// Where the current element is inside a collection. Only formats with arrays look at it.
     enum ContextState : int {
@@ -46,6 +46,7 @@ public:
         CXmlWriterContext(const CXmlWriterContext&) = delete;
         CXmlWriterContext& operator=(const CXmlWriterContext&) = delete;
 
+        /// The default namespace in scope, empty for none.
         std::wstring GetDefaultNamespace() const;
         /// Ends the inheritance: the parent's prefixes are copied.
         void SetDefaultNamespace(const std::wstring& namespaceUri);
@@ -87,8 +88,9 @@ public:
     };
 
     virtual ~CXmlWriter();
+    /// Begins a document.
     virtual void Open();
-    /// @throws CZrException while an element is open.
+    /// Ends the document. @throws CZrException while an element is open.
     virtual void Close();
     /// For the root before it starts, for the current element afterwards. Writes nothing by itself.
     virtual void SetDefaultNamespace(const std::wstring& namespaceUri);
@@ -96,14 +98,21 @@ public:
     /// prefix given to an open element has to be declared by the caller. Two URIs with the same prefix make the
     /// document invalid.
     virtual void AddNamespace(const std::wstring& prefix, const std::wstring& namespaceUri);
+    /// Writes a comment. @param text without its delimiters
     virtual void WriteComment(const std::wstring& text) = 0;
-    /// @param text the whole processing instruction, delimiters included.
+    /// Writes a processing instruction. @param text the whole processing instruction, delimiters included.
     virtual void WritePI(const std::wstring& text) = 0;
+    /// Writes the text of CSerializationContext::GetInLineSchema().
     virtual void WriteInlineSchema(const std::wstring& text) = 0;
+    /// Opens an element. @param name local name @param namespaceUri empty for none
     virtual void WriteStartElement(const std::wstring& name, const std::wstring& namespaceUri) = 0;
+    /// Writes text of the current element. @param type item type of the value, which is text already
     /// @param isDefault whether the value equals the default that the schema gives.
     virtual void WriteString(const std::wstring& value, ItemType type, bool isDefault) = 0;
+    /// Closes the current element.
     virtual void WriteEndElement() = 0;
+    /// Writes an attribute of the current element, which has no content yet. @param type item type of the value, which
+    /// is text already
     virtual void WriteAttributeString(
         const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& value, ItemType type) = 0;
     /// Writes xsi:type with the qualified name of a type.
@@ -135,7 +144,9 @@ protected:
     bool IsPrefixed(const std::wstring& namespaceUri) const;
     /// The prefix in scope of the current element; invents one when there is none. Valid until the prefixes change.
     const std::wstring& ObtainPrefix(const std::wstring& namespaceUri, bool& isNew);
+    /// What SetDefaultNamespace set before the root.
     const std::wstring& GetRootDefaultNamespace() const { return m_defaultNamespace; }
+    /// What AddNamespace added before the root.
     const NamespaceMap& GetRootNamespaceMap() const { return m_namespaceMap; }
 
 private:
