@@ -129,16 +129,19 @@ private:
     CXmlElement* OpenDocElement(const XmlName& name);
     CXmlElement* OpenChildElement(const XmlName& name);
     std::unique_ptr<CXmlElement> NewElement(CXmlElement* parent, const XmlName& name);
+    void CountName(const XmlName& name);
     CXmlElement& RequireOpenElement() const;
     CXmlElement& RequireOpenElement(CXmlElement* element) const;
 
     std::unique_ptr<CXmlElement> m_documentElement;
     std::vector<CXmlElement*> m_elementStack;
-    std::map<std::wstring, std::wstring> m_prefixMap; // prefix -> URI
-    std::unique_ptr<unsigned char[]> m_inputBuffer;   // null when the input is the caller's
+    std::map<std::wstring, std::wstring> m_prefixMap;       // prefix -> URI
+    mutable std::map<std::wstring, std::wstring> m_aliases; // URI -> first prefix; empty until it is asked for
+    std::unique_ptr<unsigned char[]> m_inputBuffer;         // null when the input is the caller's
     const unsigned char* m_input;
     unsigned long m_inputSize;
-    unsigned long m_elementCount; // begun since the last clean-up
+    unsigned long m_elementCount;   // begun since the last clean-up
+    unsigned long m_nameCharacters; // of their names and those of their attributes, as far as these are long
     SchemaType m_schemaType;
     bool (*m_elementEnd)(CXmlElement*);
     const CSerializationContext* m_context;

@@ -48,14 +48,14 @@ public:
 
         /// The default namespace in scope, empty for none.
         std::wstring GetDefaultNamespace() const;
-        /// Ends the inheritance: the parent's prefixes are copied.
+        /// Ends the inheritance: the parent's prefixes stay in scope.
         void SetDefaultNamespace(const std::wstring& namespaceUri);
         /// The prefixes in scope, which may be an ancestor's.
         NamespaceMap& GetNamespaceMap();
         /// The prefix in scope. Enters an empty prefix for an unknown URI. Null is the empty URI.
         std::wstring GetNamespaceMapValue(const wchar_t* namespaceUri);
         std::wstring GetNamespaceMapValue(const std::wstring& namespaceUri);
-        /// Ends the inheritance: the parent's prefixes and default namespace are copied.
+        /// Ends the inheritance: the parent's prefixes stay in scope and its default namespace is copied.
         void SetNamespaceMapValue(const std::wstring& namespaceUri, const std::wstring& prefix);
         /// The prefix in scope, null when there is none or an empty one. Valid until the prefixes change.
         const std::wstring* FindPrefix(const std::wstring& namespaceUri) const;
@@ -70,7 +70,14 @@ public:
         void BeginRoot(unsigned long depth, const std::wstring& defaultNamespace, const NamespaceMap& namespaceMap);
         void BeginChild(CXmlWriterContext& parent);
         void SetName(const std::wstring& localName, const std::wstring& namespaceUri);
-        void CopyParentMap();
+        void BeginScope();
+        void CompleteMap();
+        const NamespaceMap::value_type* FindEntry(const std::wstring& namespaceUri) const;
+        void EnterPrefix(const std::wstring& namespaceUri, const std::wstring& prefix);
+        std::wstring InventPrefix();
+        void CollectPrefixNumbers();
+        /// The scope around this one; null when there is none or this one repeats what it holds.
+        CXmlWriterContext* GetOuterScope() const { return m_isComplete ? nullptr : m_parent->m_scope; }
 
         int m_childCount;
         bool m_startTagOpen;
@@ -81,6 +88,10 @@ public:
         ContextState m_state;
         std::wstring m_defaultNamespace; // of this scope
         NamespaceMap m_namespaceMap;     // of this scope
+        bool m_isComplete;               // whether the map repeats the prefixes of the outer scopes
+        bool m_knowsPrefixNumbers;
+        std::vector<bool> m_takenPrefixNumbers; // of this scope and the outer ones, when known
+        std::size_t m_firstFreePrefixNumber;    // none below it is free
         bool m_inherits;
         CXmlWriterContext* m_scope;                          // the nearest context that does not inherit
         mutable const NamespaceMap::value_type* m_lastFound; // of this scope; saves most searches
