@@ -4,6 +4,7 @@
 #include "ZrXmlLib16/ClassfactoryBase.h"
 #include "ZrXmlLib16/XmlElement.h"
 #include "shared/orders/Address.h"
+#include "shared/orders/Contact.h"
 #include "shared/orders/Gift.h"
 #include "shared/orders/Payment.h"
 #include "shared/orders/Product.h"
@@ -15,6 +16,8 @@ ZrXmlLib16::CSmartPtr<ZrXmlLib16::CXmlObjectBase> CreateObject(int classId, cons
     switch (classId) {
     case ClassId_Address:
         return new CAddress(name);
+    case ClassId_Contact:
+        return new CContact(name);
     case ClassId_Payment:
         return new CPayment(name);
     case ClassId_Card:
@@ -28,11 +31,8 @@ ZrXmlLib16::CSmartPtr<ZrXmlLib16::CXmlObjectBase> CreateObject(int classId, cons
 
 ZrXmlLib16::CSmartPtr<ZrXmlLib16::CXmlObjectBase> CreateProduct(ZrXmlLib16::CXmlElement* element)
 {
-    using ZrXmlLib16::CClassfactoryBase;
-    const std::wstring type = CClassfactoryBase::GetElementType(element);
-    if (CClassfactoryBase::GetElementTypeNamespaceUri(element) != NAMESPACE) {
-        return nullptr;
-    }
+    // The local name is enough here, so that documents can be read whose namespaces are to be ignored.
+    const std::wstring type = ZrXmlLib16::CClassfactoryBase::GetElementType(element);
     if (type == L"Book") {
         return new CBook(element->GetLocalName().c_str());
     }

@@ -12,7 +12,7 @@ class CXmlElement;
 namespace Orders {
 
 /// The classes that records create by number.
-enum ClassId : int { ClassId_Address, ClassId_Payment, ClassId_Card, ClassId_Gift };
+enum ClassId : int { ClassId_Address, ClassId_Contact, ClassId_Payment, ClassId_Card, ClassId_Gift };
 
 /// A new object of a class, under an element name; null for an unknown class.
 ZrXmlLib16::CSmartPtr<ZrXmlLib16::CXmlObjectBase> CreateObject(int classId, const wchar_t* name);

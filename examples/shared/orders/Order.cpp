@@ -27,6 +27,8 @@ struct COrder::Tables {
         Object<CElementInfoSeqClsMnd>(L"shipTo", NAMESPACE, Property_ShipTo, CreateObject, ClassId_Address);
     CElementInfoSeqClsOpt billTo =
         Object<CElementInfoSeqClsOpt>(L"billTo", NAMESPACE, Property_BillTo, CreateObject, ClassId_Address);
+    CElementInfoSeqClsOpt contact =
+        Object<CElementInfoSeqClsOpt>(L"contact", NAMESPACE, Property_Contact, CreateObject, ClassId_Contact);
     CElementInfoSeqPrimCol tag{L"tag", NAMESPACE, Property_Tag};
     CElementInfoSeqPrimOpt comment = Primitive<CElementInfoSeqPrimOpt>(
         L"comment", NAMESPACE, Property_Comment, SimpleType(ItemType_string).LengthFromTo(0, 200), true);
@@ -35,7 +37,7 @@ struct COrder::Tables {
         Object<CElementInfoSeqClsMnd>(L"payment", NAMESPACE, Property_Payment, CreateObject, ClassId_Payment);
     CElementInfoSeqClsOpt gift =
         Object<CElementInfoSeqClsOpt>(L"gift", NAMESPACE, Property_Gift, CreateObject, ClassId_Gift);
-    CElementInfo* elements[9] = {&placed, &shipTo, &billTo, &tag, &comment, &item, &payment, &gift, nullptr};
+    CElementInfo* elements[10] = {&placed, &shipTo, &billTo, &contact, &tag, &comment, &item, &payment, &gift, nullptr};
 
     CAttributeInfoPrimitive number = Attribute(L"number", Property_Number, Use::Required, SimpleType(ItemType_ui4));
     CAttributeInfoEnum status = EnumerationAttribute<ORDER_STATUS_TEXTS>(L"status", Property_Status, Use::Optional);
@@ -68,6 +70,12 @@ void COrder::SetBillTo(CAddress* value)
     m_billTo = value;
 }
 
+void COrder::SetContact(CContact* value)
+{
+    Throw_IfElementNameDiffers(value, L"contact");
+    m_contact = value;
+}
+
 void COrder::SetPayment(CPayment* value)
 {
     Throw_IfElementNameDiffers(value, L"payment");
@@ -93,6 +101,8 @@ void COrder::AccessProperty(int index, bool read, ZrVariant& value)
         return AccessObject(read, value, m_shipTo);
     case Property_BillTo:
         return AccessObject(read, value, m_billTo);
+    case Property_Contact:
+        return AccessObject(read, value, m_contact);
     case Property_Tag:
         return AccessCollection(read, value, m_tag);
     case Property_Comment:
@@ -128,6 +138,7 @@ void COrder::Init()
     m_placed.reset();
     m_shipTo = nullptr;
     m_billTo = nullptr;
+    m_contact = nullptr;
     m_tag->Clear();
     m_comment = {};
     m_item->Clear();

@@ -7,6 +7,7 @@
 #include "shared/ObjectCollection.h"
 #include "shared/PropertyAccess.h"
 #include "shared/orders/Address.h"
+#include "shared/orders/Contact.h"
 #include "shared/orders/Gift.h"
 #include "shared/orders/Item.h"
 #include "shared/orders/Payment.h"
@@ -35,6 +36,9 @@ public:
     /// May be null.
     CAddress* GetBillTo() const { return m_billTo; }
     void SetBillTo(CAddress* value);
+    /// May be null.
+    CContact* GetContact() const { return m_contact; }
+    void SetContact(CContact* value);
     /// Words to search by, at most three.
     ZrXmlLib16::CstringCol& GetTag() const { return *m_tag; }
     /// May be nil when it is written; absent when it was read as nil.
@@ -63,6 +67,7 @@ private:
         Property_Placed,
         Property_ShipTo,
         Property_BillTo,
+        Property_Contact,
         Property_Tag,
         Property_Comment,
         Property_Item,
@@ -77,6 +82,7 @@ private:
     std::optional<ZrXmlLib16::CDateTime> m_placed;
     ZrXmlLib16::CSmartPtr<CAddress> m_shipTo;
     ZrXmlLib16::CSmartPtr<CAddress> m_billTo;
+    ZrXmlLib16::CSmartPtr<CContact> m_contact;
     ZrXmlLib16::CSmartPtr<ZrXmlLib16::CstringCol> m_tag;
     Shared::Nillable<std::wstring> m_comment;
     ZrXmlLib16::CSmartPtr<Shared::CObjectCollection<CItem>> m_item;

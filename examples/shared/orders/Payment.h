@@ -39,7 +39,8 @@ private:
     std::optional<ZrXmlLib16::CDateTime> m_expires;
 };
 
-/// How an order is paid: a choice. Setting one alternative, or adding to its collection, unsets the others.
+/// How an order is paid: a choice, which may be empty because some of its alternatives are optional. Setting one
+/// alternative, or adding to its collection, unsets the others.
 class CPayment : public COrderObject {
 public:
     explicit CPayment(const wchar_t* elementName = L"payment");

@@ -39,6 +39,10 @@ void FillOrder(COrder& order)
     address->SetCity(L"Linz");
     address->SetPostalCode(L"4020");
 
+    auto* contact = new CContact;
+    order.SetContact(contact);
+    contact->GetPhone().Add(L"+43 732 123456");
+
     auto* book = new CBook;
     FillItem(order.GetItem().Add(), 1, book, 2, L"24.90");
     book->SetNumber(L"BK-0042");
