@@ -2,7 +2,7 @@
 #ifndef TESTS_ROBUSTNESS_MEASURE_H
 #define TESTS_ROBUSTNESS_MEASURE_H
 
-#include "benchmarks/AllocationMeter.h"
+#include "robustness/AllocationMeter.h"
 
 #include <cstddef>
 #include <functional>
