@@ -8,6 +8,7 @@
 #include "streams/ZlibSlice.h"
 
 #include <memory>
+#include <new>
 
 namespace ZrXmlLib16 {
 
@@ -32,7 +33,7 @@ bool InflateOctets(const unsigned char* data, unsigned long length, unsigned lon
 {
     z_stream stream{};
     if (inflateInit2(&stream, AUTODETECT_WINDOW_BITS) != Z_OK) {
-        return false;
+        throw std::bad_alloc(); // there is no other reason
     }
     const std::unique_ptr<z_stream, int (*)(z_stream*)> cleanup(&stream, &inflateEnd);
     const std::unique_ptr<unsigned char[]> chunk(new unsigned char[INFLATE_CHUNK]);
@@ -50,6 +51,9 @@ bool InflateOctets(const unsigned char* data, unsigned long length, unsigned lon
             throw CZrException(FormatString(Message::INFLATED_TOO_LARGE, maximum));
         }
         result.Append(chunk.get(), produced);
+    }
+    if (code == Z_MEM_ERROR) {
+        throw std::bad_alloc();
     }
     return code == Z_STREAM_END;
 }

@@ -61,10 +61,10 @@ std::string ManyNamespacesOfElements(int count)
     return xml + "</a>";
 }
 
-// Each of 400 levels brings its share.
+// Each of 100 levels brings its share.
 std::string NestedNamespaces(int count)
 {
-    constexpr int LEVELS = 400;
+    constexpr int LEVELS = 100;
     std::string start, end;
     for (int level = 0; level < LEVELS; ++level) {
         start += "<n";
@@ -104,7 +104,7 @@ TEST(Quadratic, NoUntypedDocumentIs)
         const std::string small = row.make(row.count), large = row.make(4 * row.count);
         const double before = SecondsOf([&] { ReadAndWriteUntyped(small); });
         const double after = SecondsOf([&] { ReadAndWriteUntyped(large); });
-        EXPECT_GT(std::max(10 * before, 0.2), after) << row.name << ": " << before << " s";
+        EXPECT_GT(std::max(12 * before, 0.2), after) << row.name << ": " << before << " s";
         if (testing::UnitTest::GetInstance()->current_test_info())
             RecordProperty(row.name, std::to_string(after / before));
     }
@@ -127,7 +127,7 @@ TEST(Quadratic, NoReportIs)
     const std::string small = failing(10000), large = failing(40000);
     const double before = SecondsOf([&] { run(small); });
     const double after = SecondsOf([&] { run(large); });
-    EXPECT_GT(std::max(10 * before, 0.2), after) << before << " s";
+    EXPECT_GT(std::max(12 * before, 0.2), after) << before << " s";
 }
 
 TEST(Quadratic, NoJsonIs)
@@ -155,6 +155,6 @@ TEST(Quadratic, NoJsonIs)
             } catch (const CZrException&) {
             }
         });
-        EXPECT_GT(std::max(10 * before, 0.2), after) << before << " s";
+        EXPECT_GT(std::max(12 * before, 0.2), after) << before << " s";
     }
 }
