@@ -23,6 +23,22 @@ double SecondsOf(const std::function<void()>& action)
         + static_cast<double>(after.tv_nsec - before.tv_nsec) / 1e9;
 }
 
+/// Four times the input may cost twelve times as much, where quadratic work would cost sixteen times. Another program
+/// may spoil a measurement, but hardly three of them.
+testing::AssertionResult IsNotQuadratic(const std::function<void()>& run, const std::function<void()>& runFourfold)
+{
+    constexpr double NEGLIGIBLE_SECONDS = 0.2;
+    double before = 0;
+    double after = 0;
+    for (int attempt = 0; attempt < 3; ++attempt) {
+        before = SecondsOf(run);
+        after = SecondsOf(runFourfold);
+        if (after < std::max(12 * before, NEGLIGIBLE_SECONDS))
+            return testing::AssertionSuccess();
+    }
+    return testing::AssertionFailure() << before << " s became " << after << " s";
+}
+
 void ReadAndWriteUntyped(const std::string& xml)
 {
     const CSmartPtr<CElement> element = new CElement;
@@ -102,11 +118,8 @@ TEST(Quadratic, NoUntypedDocumentIs)
         {"children and texts", ManyChildrenAndTexts, 20000}, {"entities", ManyEntities, 10000}};
     for (const auto& row : rows) {
         const std::string small = row.make(row.count), large = row.make(4 * row.count);
-        const double before = SecondsOf([&] { ReadAndWriteUntyped(small); });
-        const double after = SecondsOf([&] { ReadAndWriteUntyped(large); });
-        EXPECT_GT(std::max(12 * before, 0.2), after) << row.name << ": " << before << " s";
-        if (testing::UnitTest::GetInstance()->current_test_info())
-            RecordProperty(row.name, std::to_string(after / before));
+        EXPECT_TRUE(IsNotQuadratic([&] { ReadAndWriteUntyped(small); }, [&] { ReadAndWriteUntyped(large); }))
+            << row.name;
     }
 }
 
@@ -125,16 +138,18 @@ TEST(Quadratic, NoReportIs)
         EXPECT_EQ(L"/r/a/p0:b", document.GetDocumentElement()->GetFirstElement()->GetFirstElement()->GetXPath());
     };
     const std::string small = failing(10000), large = failing(40000);
-    const double before = SecondsOf([&] { run(small); });
-    const double after = SecondsOf([&] { run(large); });
-    EXPECT_GT(std::max(12 * before, 0.2), after) << before << " s";
+    EXPECT_TRUE(IsNotQuadratic([&] { run(small); }, [&] { run(large); }));
 }
 
 TEST(Quadratic, NoJsonIs)
 {
     const auto load = [](const std::string& json) {
         CXmlDocument document;
-        document.LoadJsonStream(reinterpret_cast<const unsigned char*>(json.data()), json.size());
+        try {
+            document.LoadJsonStream(reinterpret_cast<const unsigned char*>(json.data()), json.size());
+        } catch (const CZrException&) {
+            // What is no document costs no more either.
+        }
     };
     const auto members = [](int count) { return "{\"a\": {" + Numbered("\"n", "\": 1, ", count) + "\"z\": 1}}"; };
     const auto comments = [](int count) {
@@ -143,18 +158,6 @@ TEST(Quadratic, NoJsonIs)
     const auto attributes = [](int count) { return "{\"a\": {" + Numbered("\"@n", "\": 1, ", count) + "\"b\": 1}}"; };
     for (const auto& make : std::vector<std::function<std::string(int)>>{members, comments, attributes}) {
         const std::string small = make(20000), large = make(80000);
-        const double before = SecondsOf([&] {
-            try {
-                load(small);
-            } catch (const CZrException&) {
-            }
-        });
-        const double after = SecondsOf([&] {
-            try {
-                load(large);
-            } catch (const CZrException&) {
-            }
-        });
-        EXPECT_GT(std::max(12 * before, 0.2), after) << before << " s";
+        EXPECT_TRUE(IsNotQuadratic([&] { load(small); }, [&] { load(large); }));
     }
 }
