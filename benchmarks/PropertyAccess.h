@@ -37,7 +37,7 @@ inline void AccessText(bool read, ZrXmlLib16::ZrVariant& value, std::optional<st
             member.reset();
         }
     } else if (member) {
-        value.SetString(*member);
+        value.LendString(*member);
     }
 }
 

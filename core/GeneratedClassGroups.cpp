@@ -5,9 +5,9 @@
 #include "ZrXmlLib16/XmlGeneratedClass.h"
 #include "ZrXmlLib16/ZrValidationException.h"
 #include "ZrXmlLib16Data/ElementInfo.h"
-#include "core/ClassTraits.h"
 #include "core/CoreMessages.h"
 #include "core/SeenFlags.h"
+#include "core/TargetNamespace.h"
 
 #include <utility>
 
@@ -78,10 +78,10 @@ bool CXmlGeneratedClass::Offer(CElementInfo* record, const CSerializationContext
 CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(
     const CSerializationContext& context, CXmlElement* parent, CXmlElement* cursor, XmlElementType type)
 {
-    CClassTraits traits(*this, GetClassInfo(), *parent);
+    const CTargetNamespace targetNamespace(*this, GetClassInfo(), *parent);
     CElementInfo** records = GetClassElementInfo();
     const std::size_t count = CountRecords(records);
-    const wchar_t* const target = traits.GetTargetNamespace();
+    const wchar_t* const target = targetNamespace.GetText();
     const bool ignoreUnknown = context.GetIgnoreUnknownElements();
     // With names alone to go by, an element that no record knows can be skipped before a record mistakes it for its own
     // absence.
@@ -127,9 +127,9 @@ CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(
 CXmlElement* CXmlGeneratedClass::ProcessElementChoiceFromXml(const CSerializationContext& context, CXmlElement* parent,
     CXmlElement* cursor, XmlElementType type, bool isOptional)
 {
-    CClassTraits traits(*this, GetClassInfo(), *parent);
+    const CTargetNamespace targetNamespace(*this, GetClassInfo(), *parent);
     CElementInfo** records = GetClassElementInfo();
-    const wchar_t* const target = traits.GetTargetNamespace();
+    const wchar_t* const target = targetNamespace.GetText();
     CXmlElement* const entry = cursor;
     bool chosen = false;
     for (bool searching = true; searching;) {
@@ -173,10 +173,10 @@ CXmlElement* CXmlGeneratedClass::FinishChoice(const CSerializationContext& conte
 CXmlElement* CXmlGeneratedClass::ProcessElementAllFromXml(
     const CSerializationContext& context, CXmlElement* parent, CXmlElement* cursor, XmlElementType type)
 {
-    CClassTraits traits(*this, GetClassInfo(), *parent);
+    const CTargetNamespace targetNamespace(*this, GetClassInfo(), *parent);
     CElementInfo** records = GetClassElementInfo();
     const std::size_t count = CountRecords(records);
-    const wchar_t* const target = traits.GetTargetNamespace();
+    const wchar_t* const target = targetNamespace.GetText();
     CXmlElement* const entry = cursor;
     CSeenFlags found(count);
     while (cursor) {

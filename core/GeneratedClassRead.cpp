@@ -10,7 +10,6 @@
 #include "ZrXmlLib16/ZrVariant.h"
 #include "ZrXmlLib16Data/AttributeInfo.h"
 #include "ZrXmlLib16Data/ParentElementInfo.h"
-#include "core/ClassTraits.h"
 #include "core/CoreMessages.h"
 #include "core/DepthGuard.h"
 #include "core/NilAttribute.h"
@@ -70,7 +69,7 @@ CXmlElement* CXmlGeneratedClass::ReadContent(
     CXmlElement* element, CXmlElement* cursor, const CSerializationContext& context, bool isOptional)
 {
     ProcessAttributesFromXml(context, element, GetClassInfo()->GetRejectUnknownAttributes());
-    const INillable* nillable = CClassTraits(*this, GetClassInfo(), *element).GetNillable();
+    const INillable* nillable = NodeAccess::FindNillable(*element, *this);
     if (nillable && nillable->IsNil()) {
         m_satisfied = true;
         return cursor;
@@ -124,7 +123,7 @@ void CXmlGeneratedClass::ProcessAttributesFromXml(
             continue;
         }
         if (attribute->IsNilAttribute()) {
-            INillable* nillable = CClassTraits(*this, GetClassInfo(), *element).GetNillable();
+            INillable* nillable = NodeAccess::FindNillable(*element, *this);
             if (nillable) {
                 nillable->SetNil(ParseNil(*attribute));
                 m_touched = true;

@@ -18,8 +18,10 @@
 #include "ZrXmlLib16Data/ParentElementInfo.h"
 #include "core/CoreMessages.h"
 #include "core/DepthGuard.h"
+#include "core/NillableMemory.h"
 #include "core/RootPreparation.h"
 #include "metadata/RecordAccess.h"
+#include "values/BorrowingVariant.h"
 
 namespace ZrXmlLib16 {
 
@@ -90,7 +92,7 @@ void CXmlGeneratedClass::WriteStartTag(CXmlWriter* writer, bool isRoot, const wc
 
 void CXmlGeneratedClass::WriteContent(CXmlWriter* writer, const CSerializationContext& context, bool isOptional) const
 {
-    const INillable* nillable = dynamic_cast<const INillable*>(this);
+    const INillable* nillable = ZrXmlLib16Data::CRecordAccess::Nillables(*writer).Find(*this);
     if (nillable && nillable->IsNil()) {
         writer->WriteAttributeNil();
         return;
@@ -117,14 +119,18 @@ void CXmlGeneratedClass::WriteSimpleContent(CXmlWriter* writer) const
     if (info.GetValueProperty() == -1 || info.GetValueType() == ItemType_none) {
         return;
     }
-    ZrVariant value;
+    CBorrowingVariant value;
     ReadProperty(info.GetValueProperty(), value);
     if (value.IsNil()) {
         writer->WriteAttributeNil();
         return;
     }
-    std::wstring& text = ZrXmlLib16Data::CRecordAccess::Scratch(*writer);
-    value.FormatTo(info.GetValueFormat().c_str(), text);
+    const bool isString = value.GetItemType() == ItemType_string;
+    std::wstring& scratch = ZrXmlLib16Data::CRecordAccess::Scratch(*writer);
+    if (!isString) {
+        value.FormatTo(info.GetValueFormat().c_str(), scratch);
+    }
+    const std::wstring& text = isString ? value.GetString() : scratch;
     writer->WriteString(text, value.GetItemType(), false);
 }
 

@@ -267,7 +267,9 @@ void CFastInfosetReader::Decoder::ReadAttributes(CXmlElement& element)
 {
     unsigned char octet = m_input.Fetch();
     for (; octet < NOT_AN_ATTRIBUTE; octet = m_input.Fetch()) {
-        ReadAttributeValue(element, ReadAttributeName(octet));
+        const XmlName& name = ReadAttributeName(octet);
+        m_document.CountName(name);
+        ReadAttributeValue(element, name);
     }
     if (octet == DOUBLE_TERMINATOR) {
         m_document.EndElement();

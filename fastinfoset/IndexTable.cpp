@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "fastinfoset/IndexTable.h"
 
-#include "values/Int128.h"
+#include "values/HashSecret.h"
 
 #include <algorithm>
 #include <cstring>
@@ -11,8 +11,7 @@ namespace ZrXmlLib16 {
 namespace {
 
 constexpr std::size_t TEXT_CAPACITY = 16384;
-constexpr std::uint64_t SEED = 0x9E3779B97F4A7C15;
-constexpr std::uint64_t MULTIPLIER = 0xD6E8FEB86659FD93;
+constexpr std::uint64_t SPACE_MULTIPLIER = 0xD6E8FEB86659FD93;
 
 std::uint64_t LoadPair(const wchar_t* text)
 {
@@ -22,29 +21,24 @@ std::uint64_t LoadPair(const wchar_t* text)
     return characters;
 }
 
-std::uint64_t MultiplyAndFold(std::uint64_t left, std::uint64_t right)
-{
-    const UInt128 product = UInt128{left} * right;
-    return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
-}
-
 /// Takes four characters at a time; the last four overlap those before them.
 std::uint64_t HashText(std::wstring_view text)
 {
+    const HashSecret& secret = GetHashSecret();
     const wchar_t* position = text.data();
     const std::size_t length = text.size();
-    std::uint64_t hash = SEED ^ length;
+    std::uint64_t hash = secret.seed ^ length;
     if (length >= 4) {
         const wchar_t* const last = position + length - 4;
         for (; position < last; position += 4) {
-            hash = MultiplyAndFold(LoadPair(position) ^ hash, LoadPair(position + 2) ^ MULTIPLIER);
+            hash = MultiplyAndFold(LoadPair(position) ^ hash, LoadPair(position + 2) ^ secret.multiplier);
         }
-        return MultiplyAndFold(LoadPair(last) ^ hash, LoadPair(last + 2) ^ MULTIPLIER);
+        return MultiplyAndFold(LoadPair(last) ^ hash, LoadPair(last + 2) ^ secret.multiplier);
     }
     if (length >= 2) {
-        return MultiplyAndFold(LoadPair(position) ^ hash, LoadPair(position + length - 2) ^ MULTIPLIER);
+        return MultiplyAndFold(LoadPair(position) ^ hash, LoadPair(position + length - 2) ^ secret.multiplier);
     }
-    return length == 0 ? hash : MultiplyAndFold(static_cast<std::uint32_t>(*position) ^ hash, MULTIPLIER);
+    return length == 0 ? hash : MultiplyAndFold(static_cast<std::uint32_t>(*position) ^ hash, secret.multiplier);
 }
 
 // Most texts are shorter than the call of a library function takes.
@@ -79,7 +73,7 @@ IndexTable::Key IndexTable::Key::InSpace(std::uint32_t space) const
 void IndexTable::Key::Place(std::uint32_t space)
 {
     m_space = space;
-    m_hash = static_cast<std::uint32_t>((m_textHash + space) * MULTIPLIER >> 32);
+    m_hash = static_cast<std::uint32_t>((m_textHash + space) * SPACE_MULTIPLIER >> 32);
 }
 
 IndexTable::IndexTable()

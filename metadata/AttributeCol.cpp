@@ -8,7 +8,7 @@
 #include "metadata/MetadataMessages.h"
 #include "metadata/NamespaceRule.h"
 
-#include <unordered_set>
+#include <set>
 
 namespace ZrXmlLib16 {
 
@@ -16,25 +16,19 @@ namespace {
 
 constexpr std::size_t FEW = 16;
 
-struct NameHash {
-    std::size_t operator()(const CAttribute* attribute) const
-    {
-        const std::hash<std::wstring> hash;
-        return hash(attribute->GetName()) * 31 + hash(attribute->GetNamespace());
-    }
-};
-
-struct SameName {
+struct NameOrder {
     bool operator()(const CAttribute* left, const CAttribute* right) const
     {
-        return left->GetName() == right->GetName() && left->GetNamespace() == right->GetNamespace();
+        const int order = left->GetName().compare(right->GetName());
+        return order < 0 || (order == 0 && left->GetNamespace() < right->GetNamespace());
     }
 };
 
 } // namespace
 
 struct CAttributeCol::Index {
-    std::unordered_set<CAttribute*, NameHash, SameName> items;
+    // Ordered, because hash values of names can be made to collide.
+    std::set<CAttribute*, NameOrder> items;
 };
 
 CAttributeCol::CAttributeCol()

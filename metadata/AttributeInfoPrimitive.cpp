@@ -6,6 +6,7 @@
 #include "core/TextArgument.h"
 #include "lexical/FacetCheck.h"
 #include "metadata/RecordAccess.h"
+#include "values/BorrowingVariant.h"
 #include "xml/NodeAccess.h"
 
 namespace ZrXmlLib16Data {
@@ -29,7 +30,7 @@ CAttributeInfoPrimitive::~CAttributeInfoPrimitive() = default;
 void CAttributeInfoPrimitive::AttributeToXml(
     const CSerializationContext& context, const CXmlGeneratedClass* object, CXmlWriter* writer) const
 {
-    ZrVariant value;
+    CBorrowingVariant value;
     ReadProperty(object, value);
     if (IsOptional() && !value.IsValid()) {
         return;

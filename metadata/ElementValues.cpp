@@ -15,6 +15,7 @@
 #include "core/NilAttribute.h"
 #include "metadata/EnumerationText.h"
 #include "metadata/RecordAccess.h"
+#include "values/BorrowingVariant.h"
 #include "xml/NodeAccess.h"
 
 namespace ZrXmlLib16Data {
@@ -24,7 +25,7 @@ using namespace ZrXmlLib16;
 bool CElementInfo::ElementToXmlPrim(
     const CSerializationContext&, const CXmlGeneratedClass* object, CXmlWriter* writer) const
 {
-    ZrVariant value;
+    CBorrowingVariant value;
     ReadProperty(object, value);
     if (value.IsNil()) {
         return WriteNilElement(writer);

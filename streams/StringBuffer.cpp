@@ -41,17 +41,6 @@ void CStringBuffer::Append(const std::wstring& text)
     Append(text.data(), text.size());
 }
 
-void CStringBuffer::Append(const wchar_t* text, unsigned long length)
-{
-    if (length > m_currentCapacity - m_usedInCurrent) {
-        AppendOverBlocks(text, length);
-        return;
-    }
-    std::copy_n(text, length, m_current + m_usedInCurrent);
-    m_usedInCurrent += length;
-    m_totalLength += length;
-}
-
 void CStringBuffer::AppendOverBlocks(const wchar_t* text, unsigned long length)
 {
     while (length > 0) {

@@ -48,16 +48,6 @@ void CTextStream::Append(const wchar_t* text)
     m_buffer.Append(text);
 }
 
-void CTextStream::Append(const std::wstring& text)
-{
-    m_buffer.Append(text.data(), text.size());
-}
-
-void CTextStream::Append(const wchar_t* text, unsigned long length)
-{
-    m_buffer.Append(text, length);
-}
-
 const wchar_t* CTextStream::GetText()
 {
     return m_buffer.GetText();

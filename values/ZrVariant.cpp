@@ -167,6 +167,10 @@ ZrVariant& ZrVariant::operator=(ZrVariant&& other) noexcept
 /// This variant is invalid before.
 void ZrVariant::CopyFrom(const ZrVariant& other)
 {
+    if (other.m_isBorrowed) {
+        SetString(*other.m_value.borrowed);
+        return;
+    }
     const StorageClass storage = StorageOf(other.m_type, other.m_nil);
     if (storage == StorageClass::Scalar) {
         m_value.ui8 = other.m_value.ui8;
@@ -182,6 +186,11 @@ void ZrVariant::CopyFrom(const ZrVariant& other)
 /// This variant is invalid before, the other one after.
 void ZrVariant::MoveFrom(ZrVariant& other) noexcept
 {
+    if (other.m_isBorrowed) {
+        Borrow(*other.m_value.borrowed);
+        other.Clear();
+        return;
+    }
     const StorageClass storage = StorageOf(other.m_type, other.m_nil);
     if (storage == StorageClass::Scalar) {
         m_value.ui8 = other.m_value.ui8;
@@ -198,7 +207,8 @@ void ZrVariant::MoveFrom(ZrVariant& other) noexcept
 void ZrVariant::DropValue()
 {
     // The variant is invalid before the value goes: the destructor of an object may come back to it.
-    const StorageClass storage = StorageOf(m_type, m_nil);
+    const StorageClass storage = m_isBorrowed ? StorageClass::Scalar : StorageOf(m_type, m_nil);
+    m_isBorrowed = false;
     m_nil = false;
     m_type = ItemType_none;
     WithClassMembers(storage, m_value, m_value, [](auto& member, auto&) { Destroy(member); });
@@ -313,20 +323,44 @@ void ZrVariant::SetString(std::wstring value)
 
 void ZrVariant::SetString(const wchar_t* text, unsigned long length)
 {
-    if (StorageOf(m_type, m_nil) == StorageClass::String) {
+    if (!m_isBorrowed && StorageOf(m_type, m_nil) == StorageClass::String) {
         m_value.string.assign(text, length);
     } else {
         SetString(std::wstring(text, length));
     }
 }
 
+void ZrVariant::LendString(const std::wstring& value)
+{
+    if (m_mayBorrow) {
+        Clear();
+        Borrow(value);
+    } else {
+        SetString(value);
+    }
+}
+
+/// This variant is invalid before.
+void ZrVariant::Borrow(const std::wstring& value) noexcept
+{
+    m_value.borrowed = &value;
+    m_type = ItemType_string;
+    m_isBorrowed = true;
+}
+
 const std::wstring& ZrVariant::GetString() const
 {
+    if (m_isBorrowed) {
+        return *m_value.borrowed;
+    }
     return Read(ItemType_string, &Value::string);
 }
 
 std::wstring ZrVariant::TakeString()
 {
+    if (m_isBorrowed) {
+        return *m_value.borrowed;
+    }
     return StorageOf(m_type, m_nil) == StorageClass::String ? std::move(m_value.string) : std::wstring();
 }
 

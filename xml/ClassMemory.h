@@ -21,9 +21,6 @@ public:
         const void* classInfo;
         Entry* next;
         const wchar_t* targetNamespace; // null as long as nobody asked
-        bool knowsNillable;
-        bool isNillable;
-        std::ptrdiff_t nillableOffset;
     };
 
     explicit ClassMemory(Arena& arena) noexcept
@@ -42,8 +39,7 @@ public:
                 return *entry;
             }
         }
-        bucket = new (m_arena.Allocate(sizeof(Entry), alignof(Entry)))
-            Entry{&type, classInfo, bucket, nullptr, false, false, 0};
+        bucket = new (m_arena.Allocate(sizeof(Entry), alignof(Entry))) Entry{&type, classInfo, bucket, nullptr};
         return *bucket;
     }
 

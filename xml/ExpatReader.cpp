@@ -8,6 +8,7 @@
 #include "ZrXmlLib16/XmlDocument.h"
 #include "ZrXmlLib16/XmlElement.h"
 #include "ZrXmlLib16/ZrException.h"
+#include "core/FormatSettings.h"
 #include "xml/DocumentStorage.h"
 #include "xml/NodeAccess.h"
 #include "xml/XmlMessages.h"
@@ -27,6 +28,9 @@ static_assert(sizeof(XML_Char) == 2 && std::is_same_v<XML_Char, Utf16Unit>);
 
 constexpr XML_Char NAMESPACE_SEPARATOR = L'|';
 constexpr unsigned long LARGEST_SLICE = 1ul << 30;
+constexpr unsigned long LARGEST_EXPANSION = 1ul << 60;
+// What the parser needs whatever the document, several times.
+constexpr std::size_t MEMORY_BEYOND_EXPANSION = std::size_t(1) << 20;
 
 std::wstring WidenOptional(const Utf16Unit* units)
 {
@@ -53,6 +57,8 @@ void CExpatReader::ParserDeleter::operator()(XML_ParserStruct* parser) const noe
 
 CExpatReader::CExpatReader(CXmlDocument& document)
     : m_document(document)
+    , m_maximumExpansion(CFormatSettings::MaximumExpansion(document.GetSerializationContext(), document.GetInputSize()))
+    , m_memory(std::min(m_maximumExpansion, LARGEST_EXPANSION) * sizeof(XML_Char) + MEMORY_BEYOND_EXPANSION)
 {
 }
 
@@ -63,7 +69,9 @@ void CExpatReader::CreateParser()
     // kept: required behaviour. Without namespace processing names keep prefix and colon, and declarations are
     // attributes.
     const bool ignoresNamespaces = m_document.GetSchemaType() == SchemaType_DTD;
-    m_parser.reset(ignoresNamespaces ? XML_ParserCreate(nullptr) : XML_ParserCreateNS(nullptr, NAMESPACE_SEPARATOR));
+    const ParserMemory::Scope scope(m_memory);
+    const XML_Memory_Handling_Suite functions = {ParserMemory::Allocate, ParserMemory::Reallocate, ParserMemory::Free};
+    m_parser.reset(XML_ParserCreate_MM(nullptr, &functions, ignoresNamespaces ? nullptr : &NAMESPACE_SEPARATOR));
     if (!m_parser) {
         throw std::bad_alloc();
     }
@@ -81,6 +89,7 @@ void CExpatReader::Parse(bool isFinal)
     const char* input = reinterpret_cast<const char*>(m_document.GetInputBuffer());
     unsigned long rest = m_document.GetInputSize();
     bool isLast = false;
+    const ParserMemory::Scope scope(m_memory);
     while (!isLast) {
         const unsigned long slice = std::min(rest, LARGEST_SLICE);
         rest -= slice;
@@ -102,13 +111,20 @@ void CExpatReader::Cleanup()
 
 void CExpatReader::ThrowFailure()
 {
-    const std::wstring description = DescribeError(XML_GetErrorCode(m_parser.get()));
+    const XML_Error error = XML_GetErrorCode(m_parser.get());
+    const std::wstring description = DescribeError(error);
     const int line = static_cast<int>(XML_GetCurrentLineNumber(m_parser.get()));
     if (m_handlerFailure) {
         Cleanup();
         std::rethrow_exception(m_handlerFailure);
     }
     Cleanup();
+    if (error == XML_ERROR_NO_MEMORY) {
+        if (m_memory.IsSystemExhausted()) {
+            throw std::bad_alloc();
+        }
+        throw CZrException(FormatString(Message::START_TAG_EXPANDS_TOO_FAR, m_maximumExpansion));
+    }
     throw CZrException(FormatString(Message::PARSE_FAILED, description.c_str(), line));
 }
 
@@ -140,7 +156,9 @@ void CExpatReader::StartElement(const Utf16Unit* name, const Utf16Unit** attribu
                                                                  : m_document.OpenDocElement(elementName);
     for (; *attributes; attributes += 2) {
         const Utf16Unit* const value = attributes[1];
-        element->AddParsedAttribute(names.Intern(attributes[0]), value, Utf16Length(value));
+        const XmlName& attributeName = names.Intern(attributes[0]);
+        m_document.CountName(attributeName);
+        element->AddParsedAttribute(attributeName, value, Utf16Length(value));
     }
 }
 

@@ -2,6 +2,7 @@
 #ifndef XML_EXPATREADER_H
 #define XML_EXPATREADER_H
 
+#include "xml/ParserMemory.h"
 #include "xml/Utf16Text.h"
 
 #include <exception>
@@ -49,6 +50,8 @@ private:
     [[noreturn]] void ThrowFailure();
 
     CXmlDocument& m_document;
+    const unsigned long m_maximumExpansion;
+    ParserMemory m_memory;
     std::unique_ptr<XML_ParserStruct, ParserDeleter> m_parser;
     std::exception_ptr m_handlerFailure;
 };

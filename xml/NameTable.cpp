@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "xml/NameTable.h"
 
+#include "values/HashSecret.h"
 #include "xml/XmlNamespaces.h"
 
 #include <cstring>
@@ -11,7 +12,6 @@ namespace ZrXmlLib16 {
 namespace {
 
 constexpr std::size_t FIRST_SLOT_COUNT = 32;
-constexpr std::uint64_t HASH_MULTIPLIER = 0x9E3779B97F4A7C15u;
 
 bool IsInfrastructureNamespace(const std::wstring& namespaceUri)
 {
@@ -22,12 +22,6 @@ bool IsInfrastructureName(const std::wstring& localName)
 {
     return localName == L"xmlns" || localName == L"type" || localName == L"schemaLocation"
         || localName == L"noNamespaceSchemaLocation";
-}
-
-std::uint64_t Mix(std::uint64_t hash, std::uint64_t value) noexcept
-{
-    hash = (hash ^ value) * HASH_MULTIPLIER;
-    return hash ^ (hash >> 32);
 }
 
 std::wstring Widen(const Utf16Unit* units, std::size_t length)
@@ -126,19 +120,19 @@ const XmlName& NameTable::Intern(const std::wstring& namespaceUri, const std::ws
 
 NameTable::Key NameTable::MakeKey(const void* bytes, std::size_t size, KeyForm form) const noexcept
 {
-    // The address makes the order of the slots unpredictable for whoever wrote the document.
-    std::uint64_t hash = Mix(reinterpret_cast<std::uintptr_t>(this), size);
+    const HashSecret& secret = GetHashSecret();
+    std::uint64_t hash = MultiplyAndFold(secret.seed ^ size, secret.multiplier);
     const char* const text = static_cast<const char*>(bytes);
     std::uint64_t part = 0;
     std::size_t position = 0;
     for (; position + sizeof(part) <= size; position += sizeof(part)) {
         std::memcpy(&part, text + position, sizeof(part));
-        hash = Mix(hash, part);
+        hash = MultiplyAndFold(hash ^ part, secret.multiplier);
     }
     if (position != size) {
         part = 0;
         std::memcpy(&part, text + position, size - position);
-        hash = Mix(hash, part);
+        hash = MultiplyAndFold(hash ^ part, secret.multiplier);
     }
     return Key{text, size, form, hash};
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "xml/NodeAccess.h"
 
+#include "ZrXmlLib16/INillable.h"
+#include "ZrXmlLib16/XmlGeneratedClass.h"
 #include "ZrXmlLib16/ZrVariant.h"
 #include "xml/DocumentStorage.h"
 
@@ -19,6 +21,12 @@ ClassMemory* NodeAccess::GetClassMemory(const CXmlElement& element)
 {
     DocumentStorage* const storage = element.GetStorage();
     return storage ? &storage->GetClassMemory() : nullptr;
+}
+
+INillable* NodeAccess::FindNillable(const CXmlElement& element, CXmlGeneratedClass& object)
+{
+    DocumentStorage* const storage = element.GetStorage();
+    return storage ? storage->GetNillables().Find(object) : dynamic_cast<INillable*>(&object);
 }
 
 void NodeAccess::Parse(const NodeText& text, DocumentStorage* storage, ItemType type,

@@ -9,6 +9,8 @@
 namespace ZrXmlLib16 {
 
 class ClassMemory;
+class CXmlGeneratedClass;
+class INillable;
 class ZrVariant;
 
 /// How the walks and the builders of trees reach nodes without the public forms, which take memory of their own as soon
@@ -17,6 +19,8 @@ class NodeAccess {
 public:
     /// Null for an element that was built by hand.
     static ClassMemory* GetClassMemory(const CXmlElement& element);
+    /// The object as INillable, null when it is none.
+    static INillable* FindNillable(const CXmlElement& element, CXmlGeneratedClass& object);
 
     /// The attributes in document order; null ends them.
     static CXmlAttribute* GetFirstAttribute(const CXmlElement& element)

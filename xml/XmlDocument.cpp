@@ -6,6 +6,7 @@
 #include "ZrXmlLib16/XmlElement.h"
 #include "ZrXmlLib16/ZrException.h"
 #include "ZrXmlLib16/ZrInvalidStateException.h"
+#include "core/FormatSettings.h"
 #include "xml/DocumentStorage.h"
 #include "xml/XmlMessages.h"
 
@@ -39,6 +40,7 @@ CXmlDocument::CXmlDocument(bool (*elementEnd)(CXmlElement*), const CSerializatio
     : m_input(nullptr)
     , m_inputSize(0)
     , m_elementCount(0)
+    , m_nameCharacters(0)
     , m_schemaType(SchemaType_XSD)
     , m_elementEnd(elementEnd)
     , m_context(&context)
@@ -55,6 +57,7 @@ void CXmlDocument::Cleanup()
 {
     DestroyTree();
     DestroyInput();
+    m_aliases.clear();
     m_prefixMap.clear();
 }
 
@@ -69,6 +72,7 @@ void CXmlDocument::DestroyTree() noexcept
 {
     m_elementStack.clear();
     m_elementCount = 0;
+    m_nameCharacters = 0;
     if (m_storage && m_storage->HasWholeTree()) {
         static_cast<void>(m_documentElement.release());
         m_storage.release()->Drop();
@@ -136,7 +140,23 @@ std::unique_ptr<CXmlElement> CXmlDocument::NewElement(CXmlElement* parent, const
         throw CZrException(FormatString(Message::TOO_MANY_ELEMENTS, maximum));
     }
     ++m_elementCount;
+    CountName(name);
     return std::unique_ptr<CXmlElement>(new (name.storage->GetElementPool()) CXmlElement(this, parent, &name));
+}
+
+// A prefix or an index repeats a namespace or name of any length, which every object that takes it copies.
+void CXmlDocument::CountName(const XmlName& name)
+{
+    constexpr std::size_t ORDINARY_LENGTH = 128;
+    const std::size_t length = name.namespaceUri.size() + name.localName.size();
+    if (length <= ORDINARY_LENGTH || !m_input) { // without input the names come from the program
+        return;
+    }
+    m_nameCharacters += length;
+    const unsigned long maximum = CFormatSettings::MaximumExpansion(*m_context, m_inputSize);
+    if (m_nameCharacters > maximum) {
+        throw CZrException(FormatString(Message::NAMES_EXPAND_TOO_FAR, maximum));
+    }
 }
 
 CXmlElement& CXmlDocument::RequireOpenElement() const
@@ -193,6 +213,7 @@ void CXmlDocument::EndElement()
 
 void CXmlDocument::AddNamespaceDeclaration(const std::wstring& prefix, const std::wstring& uri)
 {
+    m_aliases.clear();
     m_prefixMap[prefix] = uri;
 }
 
@@ -204,12 +225,13 @@ std::wstring CXmlDocument::LookupNamespaceFromAlias(const std::wstring& prefix) 
 
 std::wstring CXmlDocument::LookupAliasFromNamespace(const std::wstring& uri) const
 {
-    for (const auto& [prefix, boundUri] : m_prefixMap) {
-        if (boundUri == uri) {
-            return prefix;
+    if (m_aliases.empty()) {
+        for (const auto& [prefix, boundUri] : m_prefixMap) {
+            m_aliases.emplace(boundUri, prefix);
         }
     }
-    return std::wstring();
+    const auto found = m_aliases.find(uri);
+    return found == m_aliases.end() ? std::wstring() : found->second;
 }
 
 const std::map<std::wstring, std::wstring>& CXmlDocument::GetNamespaceDeclarations() const

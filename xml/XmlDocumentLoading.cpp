@@ -154,7 +154,9 @@ void CXmlDocument::ReadFile(const wchar_t* fileName)
     if (length < 0) {
         throw CZrException(FormatString(Message::FILE_SIZE_FAILED, fileName, errno));
     }
-    AllocateInput(static_cast<unsigned long>(length));
+    m_inputSize = static_cast<unsigned long>(length);
+    CheckInputSize();
+    AllocateInput(m_inputSize);
     errno = 0;
     const std::size_t count = std::fread(m_inputBuffer.get(), 1, m_inputSize, file.get());
     if (count == 0 || count < m_inputSize) {

@@ -18,6 +18,10 @@ constexpr wchar_t FILE_READ_FAILED[] = L"Failed to read the contents of the file
 constexpr wchar_t DOCUMENT_TOO_LARGE[] = L"The document exceeds the limit of %lu octets.";
 /// limit
 constexpr wchar_t TOO_MANY_ELEMENTS[] = L"The document exceeds the limit of %lu elements.";
+/// limit
+constexpr wchar_t NAMES_EXPAND_TOO_FAR[] = L"The names of the document exceed the limit of %lu expanded characters.";
+/// limit
+constexpr wchar_t START_TAG_EXPANDS_TOO_FAR[] = L"A start tag exceeds the limit of %lu expanded characters.";
 constexpr wchar_t JSON_STRING_EMPTY[] = L"JSON String is empty!";
 constexpr wchar_t JSON_STREAM_EMPTY[] = L"JSON Stream is empty!";
 /// description, line

@@ -35,7 +35,7 @@ bool IsSpecial(wchar_t c, std::uint64_t specials)
 
 bool IsCDATA(const std::wstring& value)
 {
-    return value.compare(0, CDATA_START_LENGTH, CDATA_START) == 0;
+    return value[0] == CDATA_START[0] && value.compare(0, CDATA_START_LENGTH, CDATA_START) == 0;
 }
 
 } // namespace
@@ -109,7 +109,8 @@ void CXmlTextWriter::WriteStartElement(const std::wstring& name, const std::wstr
 {
     CloseParentElm();
     const bool isRoot = !GetCurrentContext();
-    CXmlWriterContext& context = OpenContext(name, namespaceUri, 0);
+    // The prefix is all that the end tag needs of the namespace.
+    CXmlWriterContext& context = OpenContext(name, std::wstring(), 0);
     if (m_format) {
         AppendIndentation(m_stream, m_indentChars, m_indentation, context.m_depth);
     }

@@ -2,6 +2,8 @@
 #include "ZrXmlLib16/XmlWriter.h"
 
 #include "ZrXmlLib16/ZrException.h"
+#include "core/NillableMemory.h"
+#include "xml/InventedPrefix.h"
 #include "xml/XmlMessages.h"
 #include "xml/XmlNamespaces.h"
 
@@ -9,24 +11,10 @@
 
 namespace ZrXmlLib16 {
 
-namespace {
-
-constexpr int LETTERS = 26;
-
-// The number of an invented prefix, -1 for any other text.
-int NumberOfPrefix(const std::wstring& prefix)
-{
-    if (prefix.size() != 2 || prefix[0] < L'A' || prefix[1] < L'A' || prefix[1] > L'Z') {
-        return -1;
-    }
-    return (prefix[0] - L'A') * LETTERS + (prefix[1] - L'A');
-}
-
-} // namespace
-
 CXmlWriter::CXmlWriter(const wchar_t*)
     : m_currentContext(nullptr)
     , m_openContexts(0)
+    , m_nillables(new CNillableMemory)
 {
     m_namespaceMap.emplace(XML_NAMESPACE_URI, L"xml");
 }
@@ -70,7 +58,8 @@ void CXmlWriter::SetContextState(ContextState state)
 // kept: required behaviour. Past number 675 the first character leaves the alphabet.
 std::wstring CXmlWriter::NsIntToString(int number)
 {
-    return {static_cast<wchar_t>(L'A' + number / LETTERS), static_cast<wchar_t>(L'A' + number % LETTERS)};
+    return {static_cast<wchar_t>(L'A' + number / INVENTED_PREFIX_LETTERS),
+        static_cast<wchar_t>(L'A' + number % INVENTED_PREFIX_LETTERS)};
 }
 
 std::wstring CXmlWriter::GetUniquePrefix(const NamespaceMap& map) const
@@ -125,8 +114,7 @@ const std::wstring& CXmlWriter::ObtainPrefix(const std::wstring& namespaceUri, b
     isNew = !prefix;
     if (isNew) {
         // kept: required behaviour. A prefix belongs to the element it was invented on, so siblings invent it again.
-        m_currentContext->SetNamespaceMapValue(
-            namespaceUri, GetUniquePrefix(m_currentContext->m_scope->m_namespaceMap));
+        m_currentContext->EnterPrefix(namespaceUri, m_currentContext->InventPrefix());
         prefix = m_currentContext->FindPrefix(namespaceUri);
     }
     return *prefix;

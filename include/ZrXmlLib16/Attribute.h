@@ -14,10 +14,13 @@ public:
     /// Null texts are empty.
     CAttribute(const wchar_t* namespaceUri, const wchar_t* value, const wchar_t* name);
 
+    /// Namespace, empty for none.
     const std::wstring& GetNamespace() const;
+    /// The value as text.
     const std::wstring& GetValue() const;
     /// Local name.
     const std::wstring& GetName() const;
+    /// Replaces the value. @param value null is empty
     void SetValue(const wchar_t* value);
 
 private:

@@ -33,6 +33,7 @@ public:
     CAttribute* Item(int index) const;
     /// Null when there is none.
     CAttribute* Find(const wchar_t* name, const wchar_t* namespaceUri) const;
+    /// Removes the item of that index; announced.
     void Remove(int index);
     void Clear() override;
 

@@ -20,6 +20,7 @@ public:
 
     /// Zero.
     CBigInteger();
+    /// The value of a machine integer.
     CBigInteger(int value);
     CBigInteger(long value);
     CBigInteger(long long value);
@@ -29,6 +30,7 @@ public:
     CBigInteger(CBigInteger&& other) noexcept;
     CBigInteger& operator=(const CBigInteger& other) = default;
     CBigInteger& operator=(CBigInteger&& other) noexcept;
+    /// The value of an unsigned machine integer.
     static CBigInteger FromUInt64(unsigned long long value);
 
     /// Reads `[+-]digits`, without blanks; the value is unchanged on failure. Null is empty text.
@@ -38,7 +40,9 @@ public:
 
     /// @return below 0, 0 or above 0.
     int Compare(const CBigInteger& other) const;
+    /// Whether the value is below zero.
     bool IsNegative() const { return m_negative; }
+    /// Whether the value is zero.
     bool IsZero() const { return m_digits.empty(); }
     /// Number of digits without leading zeros; 0 for zero.
     unsigned long GetDigitCount() const { return m_digits.size(); }

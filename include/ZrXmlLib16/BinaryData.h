@@ -15,13 +15,16 @@ namespace ZrXmlLib16 {
 /// their raw code units, four octets each in host byte order. Null pointers count as no data.
 class ZRXML_API CBinaryData {
 public:
+    /// The shared buffer; internal.
     class CDataHolder;
 
+    /// Empty.
     CBinaryData();
     CBinaryData(const CBinaryData& other);
     /// @param adopt true: the value takes over the array, which must have been made by new[]; false: it copies the
     /// octets.
     CBinaryData(unsigned char* data, unsigned long length, bool adopt);
+    /// The code units of a text. @param text zero-terminated; null is empty
     explicit CBinaryData(const wchar_t* text);
     virtual ~CBinaryData();
     CBinaryData& operator=(const CBinaryData& other);
@@ -29,10 +32,12 @@ public:
     /// Replaces the content by a copy of the octets, which may be part of this value.
     void SetBuffer(unsigned char* data, unsigned long length);
     void SetBuffer(const wchar_t* text);
+    /// Drops the content.
     void Clear();
 
     /// The octets, null when there are none. They may be shared: nobody may write through this pointer.
     unsigned char* GetData() const;
+    /// Number of octets.
     unsigned long GetLength() const;
     /// Pointer to the octet at the index; the length itself is accepted as index and gives the end position.
     /// @throws CZrException for an empty value and for an index above the length.
@@ -40,7 +45,7 @@ public:
     /// The same for writing: the value stops sharing its buffer.
     unsigned char* operator[](unsigned long index);
 
-    /// @param data may be part of this value.
+    /// Appends octets, or the code units of text, four octets each. @param data may be part of this value.
     void Append(const unsigned char* data, unsigned long n);
     void Append(unsigned char value);
     void Append(wchar_t value);

@@ -10,14 +10,17 @@ namespace ZrXmlLib16 {
 /// Collects the octets of a writer in its own buffer or in one of the caller's. Not synchronised.
 class ZRXML_API CBinaryStream {
 public:
+    /// Appends to a buffer of its own.
     CBinaryStream();
     /// Appends to the caller's buffer, which must outlive the stream.
     explicit CBinaryStream(CBinaryData& data);
     virtual ~CBinaryStream();
 
+    /// Appends octets.
     void Append(unsigned char value);
     /// @param data may be null when n is 0.
     void Append(const unsigned char* data, unsigned long n);
+    /// Appends all octets of a value.
     void Append(const CBinaryData& data);
 
     /// The buffer that is appended to.
@@ -29,6 +32,7 @@ public:
 protected:
     /// @param className name of the derived class; not kept.
     explicit CBinaryStream(const wchar_t* className);
+    /// For a derived class that appends to the caller's buffer.
     CBinaryStream(const wchar_t* className, CBinaryData& data);
 
 private:

@@ -19,6 +19,7 @@ namespace ZrXmlLib16 {
 /// settings the program ends.
 class CContextScope {
 public:
+    /// Notes the settings of the context.
     explicit CContextScope(CSerializationContext& context)
         : m_context(context)
         , m_jsonSettings(context.GetJsonContext())

@@ -19,6 +19,7 @@ class CDateTimeSpan;
 /// allocation; not synchronised.
 class ZRXML_API CDateTime {
 public:
+    /// The kinds of XML Schema; each has its own text form.
     enum DateType : int {
         dt_dateTime = 0,
         dt_date = 1,
@@ -29,6 +30,7 @@ public:
         dt_gMonth = 6,
         dt_gDay = 7
     };
+    /// What CompareTo returns.
     enum CompareCode : int { cmp_equal = 0, cmp_less = 1, cmp_greater = 2, cmp_indeterminate = 3 };
 
     /// Reads the text form of the given kind; the value is unchanged on failure. Each form may end with a zone, `Z` or
@@ -50,7 +52,9 @@ public:
 
     /// @throws CZrInvalidValueException when the year is outside 0..65535; see GetFullYear.
     unsigned short GetYear() const;
+    /// 1..12.
     unsigned char GetMonth() const { return m_month; }
+    /// 1..31.
     unsigned char GetDay() const { return m_day; }
     /// The partial order of date and time values (XML Schema Datatypes, 3.2.7.4).
     /// @return a CompareCode; indeterminate when the kinds differ.
@@ -69,10 +73,15 @@ public:
     CDateTime& operator=(const CDateTime& other) = default;
     virtual ~CDateTime();
 
+    /// The kind.
     DateType GetDateType() const { return m_kind; }
+    /// The year; 0 is 1 BC.
     int GetFullYear() const { return m_year; }
+    /// 0..23.
     unsigned char GetHour() const { return m_hour; }
+    /// 0..59.
     unsigned char GetMinute() const { return m_minute; }
+    /// 0..59.
     unsigned char GetSecond() const { return m_second; }
     /// The first three digits of the fraction of a second.
     unsigned short GetMilliSeconds() const;
@@ -80,6 +89,7 @@ public:
     unsigned short GetMicroSeconds() const;
     /// The last three.
     unsigned short GetNanoSeconds() const;
+    /// Whether the value has a zone.
     bool HasTimeZone() const { return m_hasZone; }
     /// Minutes east of UTC, 0 when absent.
     short GetTimeZone() const { return m_zone; }
@@ -95,6 +105,7 @@ public:
     void SetDateType(DateType kind);
     /// @param minutes east of UTC, -840..840. @throws CZrInvalidValueException outside of it.
     void SetTimeZone(short minutes);
+    /// Takes the zone away; the fields stay.
     void ClearTimeZone();
 
     /// The same instant with the zone Z; a value without zone as it is.

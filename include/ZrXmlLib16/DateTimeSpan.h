@@ -17,6 +17,7 @@ public:
     /// Zero, positive.
     CDateTimeSpan();
     CDateTimeSpan(const CDateTimeSpan& other) = default;
+    /// Positive; fields that are not given are zero.
     CDateTimeSpan(unsigned short years, unsigned long months, unsigned long days, unsigned long hours,
         unsigned long minutes, unsigned long seconds, unsigned short milli, unsigned short micro, unsigned short nano);
     CDateTimeSpan(unsigned short years, unsigned long months, unsigned long days, unsigned long hours,
@@ -36,29 +37,38 @@ public:
     /// Zero, positive.
     void Clear();
 
+    /// @{
+    /// A field as it was set; fields are not carried into one another.
     unsigned short GetYears() const { return m_years; }
     unsigned long GetMonths() const { return m_months; }
     unsigned long GetDays() const { return m_days; }
     unsigned long GetHours() const { return m_hours; }
     unsigned long GetMinutes() const { return m_minutes; }
     unsigned long GetSeconds() const { return m_seconds; }
+    /// @}
     /// The first three digits of the fraction of a second.
     unsigned short GetMilliSeconds() const { return m_milliSeconds; }
     /// The next three.
     unsigned short GetMicroSeconds() const { return m_microSeconds; }
     /// The last three.
     unsigned short GetNanoSeconds() const { return m_nanoSeconds; }
+    /// Whether the sign is negative, also of zero.
     bool IsNegative() const { return m_negative; }
+    /// @{
+    /// Sets one field; the others and the sign stay.
     void SetYears(unsigned short value) { m_years = value; }
     void SetMonths(unsigned long value) { m_months = value; }
     void SetDays(unsigned long value) { m_days = value; }
     void SetHours(unsigned long value) { m_hours = value; }
     void SetMinutes(unsigned long long value) { m_minutes = value; }
     void SetSeconds(unsigned long long value) { m_seconds = value; }
+    /// @}
+    /// @{
     /// Fraction fields above 999 are taken as they are: text and arithmetic carry them into the seconds.
     void SetMilliSeconds(unsigned short value) { m_milliSeconds = value; }
     void SetMicroSeconds(unsigned short value) { m_microSeconds = value; }
     void SetNanoSeconds(unsigned short value) { m_nanoSeconds = value; }
+    /// @}
 
     /// Flips the sign, of zero too.
     void Negate() { m_negative = !m_negative; }

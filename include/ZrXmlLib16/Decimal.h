@@ -26,6 +26,7 @@ public:
 
     /// Zero.
     CDecimal();
+    /// The value of a machine integer.
     CDecimal(int value);
     CDecimal(long value);
     CDecimal(long long value);
@@ -49,7 +50,9 @@ public:
     unsigned long GetIntegerDigits() const { return m_digits.size() - m_fractionDigits; }
     /// Digits behind the point without trailing zeros: 2 for 0.05, 0 for 100.
     unsigned long GetFractionDigits() const { return m_fractionDigits; }
+    /// Whether the value is below zero.
     bool IsNegative() const { return m_negative; }
+    /// Whether the value is zero.
     bool IsZero() const { return m_digits.empty(); }
     /// The nearest double; infinity when the value is too large.
     double ToDouble() const;

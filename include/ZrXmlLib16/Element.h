@@ -72,7 +72,9 @@ public:
     /// A copy of the whole tree, which shares nothing with this one. Listeners are not copied.
     CSmartPtr<CElement> Clone() const;
 
+    /// The text of the element, without that of its children.
     std::wstring GetText() const;
+    /// Replaces the text. @param text null is empty
     void SetText(const wchar_t* text);
     /// @throws CZrInvalidNamespaceException when the namespace does not fulfil the constraint; nothing changes.
     void SetNamespace(const wchar_t* namespaceUri);

@@ -36,6 +36,7 @@ public:
         typedef CElement** pointer;
         typedef CElement* reference;
 
+        /// The end.
         iterator()
             : m_node(nullptr)
         {
@@ -79,7 +80,9 @@ public:
     void Add(CElement* element);
     /// @throws CZrInvalidParamException unless 0 <= index < GetCount().
     CElement* Item(int index) const;
+    /// The first item, in collection order.
     iterator begin() const;
+    /// Behind the last item.
     iterator end() const;
     /// The target namespace when the constraint accepts it, else empty.
     std::wstring GetNamespace() const override;

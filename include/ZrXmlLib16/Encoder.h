@@ -26,6 +26,7 @@ public:
     /// Encodes wide text as UTF-8. @param text may be null when the length is 0.
     static std::string UnicodeToUtf8(const wchar_t* text, unsigned long length);
     static std::string UnicodeToUtf8(const std::wstring& text);
+    /// The same as octets.
     static CBinaryData UnicodeToUtf8Binary(const wchar_t* text, unsigned long length);
     static CBinaryData UnicodeToUtf8Binary(const std::wstring& text);
 

@@ -22,18 +22,23 @@ public:
     /// A qualified name by the indexes of its parts.
     class ZRXML_API CQNameParts {
     public:
-        unsigned long m_prefix;
-        unsigned long m_namespace;
-        unsigned long m_local;
+        unsigned long m_prefix;    ///< in the table of prefixes, 0 for none
+        unsigned long m_namespace; ///< in the table of namespaces, 0 for none
+        unsigned long m_local;     ///< in the table of local names
     };
 
+    /// The texts of one kind by index.
     class ZRXML_API CFIStringTable {
     public:
         virtual ~CFIStringTable();
+        /// @{
+        /// All entries, from index 1 on.
         std::vector<std::wstring>::const_iterator begin() const;
         std::vector<std::wstring>::const_iterator end() const;
+        /// @}
+        /// Number of entries.
         unsigned long size() const;
-        /// @param index from 1 to size().
+        /// One entry. @param index from 1 to size().
         const std::wstring& at(unsigned long index) const;
 
     private:
@@ -41,13 +46,18 @@ public:
         std::vector<std::wstring> m_strings;
     };
 
+    /// The qualified names of elements or of attributes by index.
     class ZRXML_API CFIQNameTable {
     public:
         virtual ~CFIQNameTable();
+        /// @{
+        /// All entries, from index 1 on.
         std::vector<CQNameParts>::const_iterator begin() const;
         std::vector<CQNameParts>::const_iterator end() const;
+        /// @}
+        /// Number of entries.
         unsigned long size() const;
-        /// @param index from 1 to size().
+        /// One entry. @param index from 1 to size().
         const CQNameParts& at(unsigned long index) const;
 
     private:
@@ -55,7 +65,7 @@ public:
         std::vector<CQNameParts> m_names;
     };
 
-    typedef std::unordered_map<std::wstring, unsigned long> CIndexMap;
+    typedef std::unordered_map<std::wstring, unsigned long> CIndexMap; ///< text to index
 
     /// The built-in entries of X.891: the prefix "xml", its namespace, and the numeric and the date and time alphabet.
     CFIVocabulary();
@@ -63,22 +73,30 @@ public:
     CFIVocabulary& operator=(const CFIVocabulary& other);
     virtual ~CFIVocabulary();
 
+    /// @{
+    /// Append a text to the table of its kind.
     void AddPrefixName(std::wstring value);
     void AddNamespaceName(std::wstring value);
     void AddLocalName(std::wstring value);
     void AddAttributeValue(std::wstring value);
-    /// Element text, in the words of X.891 a character chunk.
+    /// @}
+    /// Appends element text, in the words of X.891 a character chunk.
     void AddElementValue(std::wstring value);
+    /// @{
     /// Add a qualified name, and those of its parts that are not there yet, unless the name is there.
     void AddAttribute(std::wstring prefix, std::wstring namespaceUri, std::wstring localName);
     void AddElement(std::wstring prefix, std::wstring namespaceUri, std::wstring localName);
+    /// @}
 
-    /// @param index set when the text is found.
+    /// @{
+    /// Find a text. @param index set when the text is found. @return whether it is.
     bool FindPrefixNameIndex(std::wstring value, unsigned long& index) const;
     bool FindNamespaceNameIndex(std::wstring value, unsigned long& index) const;
     bool FindLocalNameIndex(std::wstring value, unsigned long& index) const;
     bool FindIndex(const CIndexMap& map, const std::wstring& key, unsigned long& index) const;
+    /// @}
 
+    /// @{
     /// The low-level adders, for maps and tables of this vocabulary.
     void AddValueToMap(const std::wstring& key, CIndexMap& map);
     void AddValueToVector(const std::wstring& value, CFIStringTable& table);
@@ -86,7 +104,10 @@ public:
         unsigned long prefix, unsigned long namespaceIndex, unsigned long local, CFIQNameTable& table);
     void AddQName(const std::wstring& prefix, const std::wstring& namespaceUri, const std::wstring& local,
         CIndexMap& map, CFIQNameTable& table);
+    /// @}
 
+    /// @{
+    /// The tables and maps themselves, owned by the vocabulary.
     CFIQNameTable& GetAttributeNamesTable();
     CFIStringTable& GetAttributeValuesTable();
     CFIQNameTable& GetElementNamesTable();
@@ -101,6 +122,7 @@ public:
     CIndexMap& GetLocalNamesMap();
     CIndexMap& GetNamespaceNamesMap();
     CIndexMap& GetPrefixNamesMap();
+    /// @}
 
     /// @return the alphabet of a number from 1; empty for a number without one.
     const std::wstring& GetRestrictedAlphabet(unsigned long number) const;

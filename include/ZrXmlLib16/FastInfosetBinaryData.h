@@ -13,10 +13,13 @@ namespace ZrXmlLib16 {
 /// 4 int, 5 long, 6 boolean, 7 float, 8 double, 9 uuid, 10 cdata.
 class ZRXML_API CFastInfosetBinaryData : public CBinaryData {
 public:
+    /// Empty.
     CFastInfosetBinaryData();
+    /// The octets of another value, shared with it.
     explicit CFastInfosetBinaryData(const CBinaryData& data);
-    /// @copydoc CBinaryData::CBinaryData(unsigned char*, unsigned long, bool)
+    /// Octets, copied or adopted, as CBinaryData has it.
     CFastInfosetBinaryData(unsigned char* data, unsigned long length, bool adopt);
+    /// The code units of a text, as CBinaryData has it.
     explicit CFastInfosetBinaryData(const wchar_t* text);
     ~CFastInfosetBinaryData() override;
 

@@ -16,12 +16,14 @@ public:
     /// How the values of an item type are encoded (ITU-T X.891, 7.17): as text, with a restricted alphabet (9) or with
     /// an encoding algorithm (10).
     enum EncodingKind : int { Literal = 0, RestrictedAlphabet = 1, EncodingAlgorithm = 2 };
+    /// Encoding of literal values.
     enum DefaultStringEncoding : unsigned char { Utf8 = 0, Utf16BE = 1 };
-    /// @see EncodingKind; the number is that of the alphabet (1 numeric, 2 date and time) or of the algorithm (1
-    /// hexadecimal, 2 base64, 3 short, 4 int, 5 long, 6 boolean, 7 float, 8 double, 9 uuid, 10 cdata).
+    /// How the values of one item type are encoded; the number is that of the alphabet (1 numeric, 2 date and time) or
+    /// of the algorithm (1 hexadecimal, 2 base64, 3 short, 4 int, 5 long, 6 boolean, 7 float, 8 double, 9 uuid, 10
+    /// cdata).
     struct EncodedCharacterString {
-        EncodingKind kind;
-        unsigned long number;
+        EncodingKind kind;    ///< text, alphabet or algorithm
+        unsigned long number; ///< of the alphabet or algorithm; without meaning for text
     };
 
     /// All item types literal.
@@ -49,6 +51,7 @@ public:
     void SetDefaultStringEncoding(DefaultStringEncoding encoding);
     /// Never null; the context's own.
     CFIVocabulary* GetVocabulary() const;
+    /// How the values of an item type are encoded.
     /// @param itemType a value of ItemType; the encoding of any other number is literal and cannot be set.
     EncodedCharacterString GetEncoding(unsigned long itemType) const;
     void SetEncoding(unsigned long itemType, EncodedCharacterString encoding);

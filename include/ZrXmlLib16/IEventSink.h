@@ -11,6 +11,7 @@ class CXmlObjectBase;
 /// Told of every change of the collections it listens to. The first slot is OnEvent: the destructor is not virtual.
 class ZRXML_API IEventSink {
 public:
+    /// What happened to the collection.
     enum MsgType : int {
         CollectionChanged = 0, ///< data: null
         BeforeAdd = 1,         ///< data: the item

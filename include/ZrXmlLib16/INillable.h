@@ -10,7 +10,9 @@ namespace ZrXmlLib16 {
 /// virtual.
 class ZRXML_API INillable {
 public:
+    /// Whether the element is written with xsi:nil="true" and without content.
     virtual bool IsNil() const = 0;
+    /// Called by the read walk with the value of xsi:nil.
     virtual void SetNil(bool isNil) = 0;
 
 protected:

@@ -22,6 +22,8 @@ public:
     CJsonReaderDefaultHandler(const CJsonReaderDefaultHandler&) = delete;
     CJsonReaderDefaultHandler& operator=(const CJsonReaderDefaultHandler&) = delete;
 
+    /// @{
+    /// Notes the place and hands the event on.
     void ReadStartDocument() override;
     void ReadEndDocument() override;
     void ReadName(const std::wstring& name) override;
@@ -33,13 +35,17 @@ public:
     void ReadEndArray() override;
     void ReadBool(bool value) override;
     void ReadNull() override;
+    /// @}
 
-    /// "$" for the document, then ".name" or "['name']" for each member and "[index]", counted from 0, for each item:
-    /// $.order.item[2]['unit price'].@code
+    /// "$" for the document, then a point and the name, or the quoted name in brackets, for each member, and an index
+    /// in brackets, counted from 0, for each item:
+    ///
+    ///     $.order.item[2]['unit price'].@id
     std::wstring GetPath() const override;
 
-    /// @param handler not owned; null for none: events are then only tracked.
+    /// Sets where events go. @param handler not owned; null for none: events are then only tracked.
     void SetInnerHandler(IJsonReaderHandler* handler);
+    /// The inner handler, null for none.
     IJsonReaderHandler* GetInnerHandler() const;
 
 private:

@@ -24,8 +24,11 @@ public:
     void Add(const wchar_t* alias, const wchar_t* namespaceUri);
     /// Removes the entry of the URI, if there is one.
     void RemoveNamespace(const wchar_t* namespaceUri);
+    /// Whether the URI has an entry.
     bool DoesNamespaceExist(const wchar_t* namespaceUri) const;
+    /// Whether an entry has the alias.
     bool DoesAliasExist(const wchar_t* alias) const;
+    /// Number of entries.
     int GetNamespaceCount() const;
     /// URI of the entry at a position in URI order.
     /// @param index 0 to GetNamespaceCount() - 1; not checked.

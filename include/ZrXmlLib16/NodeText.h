@@ -14,12 +14,12 @@ class DocumentStorage;
 
 /// What a node shows to its callers by reference. Made when somebody asks for it, and then the only place of the text.
 struct NodeForms {
-    std::wstring text;
-    std::vector<CXmlAttribute*> attributes;
-    bool listsAttributes;     // whether `attributes` is in use
-    DocumentStorage* storage; // whose list of forms this is in; null for none
-    NodeForms* next;
-    NodeForms* previous;
+    std::wstring text;                      ///< in wide characters
+    std::vector<CXmlAttribute*> attributes; ///< in document order
+    bool listsAttributes;                   ///< whether `attributes` is in use
+    DocumentStorage* storage;               ///< whose list of forms this is in; null for none
+    NodeForms* next;                        ///< in that list
+    NodeForms* previous;                    ///< in that list
 };
 
 /// The text of an element or attribute: 16-bit units in the memory of the document as the parser delivered them, or the
@@ -28,6 +28,7 @@ struct NodeForms {
 /// The owner passes its document's storage with every operation, null when it was built by hand.
 class NodeText {
 public:
+    /// Empty.
     NodeText() noexcept
         : m_units(nullptr)
         , m_length(0)
@@ -39,6 +40,7 @@ public:
     /// Forms are freed by Release or with the storage.
     ~NodeText() = default;
 
+    /// Whether there is no text.
     bool IsEmpty() const noexcept { return IsWide() ? m_forms->text.empty() : m_length == 0; }
     /// Appends units, carriage returns left out.
     void AppendUnits(DocumentStorage* storage, const unsigned short* units, std::size_t count);
@@ -48,13 +50,16 @@ public:
     void AppendCompact(DocumentStorage* storage, const wchar_t* text, std::size_t length);
     /// Takes the units of the value of an attribute as they are. The text is empty before.
     void AssignParsed(DocumentStorage& storage, const unsigned short* units, std::size_t length);
+    /// Whether the forms hold the list of attributes.
     bool ListsAttributes() const noexcept { return IsWide() && m_forms->listsAttributes; }
     /// The wide form, made at the first call; it is then updated in place.
     NodeForms& GetForms(DocumentStorage* storage);
     /// The text; widened into the storage's scratch unless the wide form exists. Valid until either changes.
     /// @param storage may be null when the text is wide or empty.
     const std::wstring& Borrow(DocumentStorage* storage) const;
+    /// The text in wide characters.
     std::wstring Copy() const;
+    /// Whether the character is in the text.
     bool Contains(wchar_t character) const noexcept;
     /// Frees the forms, and leaves the text empty.
     void Release() noexcept;

@@ -28,6 +28,7 @@ public:
     using reference = value_type;
 
     NodeIterator() = default;
+    /// Stands on the node; null is the end.
     explicit NodeIterator(typename Walk::Node* node)
         : m_node(node)
     {
@@ -51,26 +52,35 @@ private:
     typename Walk::Node* m_node = nullptr;
 };
 
+/// Two iterators as a range.
 template <class Iterator> class IteratorRange {
 public:
+    /// From the first iterator to before the last.
     IteratorRange(Iterator first, Iterator last)
         : m_first(first)
         , m_last(last)
     {
     }
+    /// The first iterator.
     Iterator begin() const { return m_first; }
+    /// The last iterator.
     Iterator end() const { return m_last; }
+    /// Whether there is nothing in the range.
     bool empty() const { return m_first == m_last; }
 
 private:
     Iterator m_first, m_last;
 };
 
+/// Goes through the children of an element.
 struct ChildWalk {
+    /// @{
+    /// See NodeIterator.
     using Node = CXmlElement;
     using Item = CXmlElement;
     static Node* Next(Node* node) { return node->GetNextSiblingElement(); }
     static Item* ItemOf(Node* node) { return node; }
+    /// @}
 };
 
 /// The child elements, in document order, as pointers that are never null. An iterator stays valid until its element
@@ -86,11 +96,15 @@ inline const std::vector<CXmlAttribute*>& Attributes(const CXmlElement& element)
     return element.GetAttributes();
 }
 
+/// Goes through the items of a collection.
 template <class T> struct ItemWalk {
+    /// @{
+    /// See NodeIterator.
     using Node = CXmlCollection::CNode;
     using Item = T;
     static Node* Next(Node* node) { return node->GetNext(); }
     static Item* ItemOf(Node* node) { return static_cast<T*>(node->GetItem()); }
+    /// @}
 };
 
 /// The objects of a collection as pointers to their class, which the caller knows. An iterator stays valid until its
@@ -110,6 +124,7 @@ public:
     using difference_type = std::ptrdiff_t;
     using pointer = const value_type*;
 
+    /// Stands on the item of that index.
     IndexIterator(const Collection& collection, int index)
         : m_collection(&collection)
         , m_index(index)
@@ -135,6 +150,7 @@ private:
     int m_index;
 };
 
+/// The iterator of a collection that has `Item` and `GetCount`; no type for others.
 template <class Collection> using IndexIteratorOf =
     std::enable_if_t<std::is_base_of_v<CXmlTypeCollection, Collection> || std::is_base_of_v<CAttributeCol, Collection>,
         IndexIterator<Collection>>;
@@ -145,6 +161,7 @@ template <class Collection> IndexIteratorOf<Collection> begin(const Collection& 
     return {collection, 0};
 }
 
+/// Behind the last of these.
 template <class Collection> IndexIteratorOf<Collection> end(const Collection& collection)
 {
     return {collection, collection.GetCount()};

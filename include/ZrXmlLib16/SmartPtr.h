@@ -13,11 +13,12 @@ namespace ZrXmlLib16 {
 /// CSmartPtr. One pointer belongs to one thread; the object behind it may be shared.
 template <class T> class CSmartPtr {
 public:
+    /// Null.
     CSmartPtr() noexcept
         : m_object(nullptr)
     {
     }
-    /// @param object may be null.
+    /// Takes a reference to the object. @param object may be null.
     CSmartPtr(T* object)
         : m_object(object)
     {
@@ -33,6 +34,7 @@ public:
     {
         other.m_object = nullptr;
     }
+    /// Shares the object of a pointer to a derived class.
     template <class U> CSmartPtr(const CSmartPtr<U>& other)
         : m_object(other.GetPtr())
     {
@@ -47,6 +49,7 @@ public:
         Swap(taken);
         return *this;
     }
+    /// Replaces the object. @param object may be null
     CSmartPtr& operator=(T* object)
     {
         CSmartPtr taken(object);
@@ -56,7 +59,9 @@ public:
 
     T* operator->() const { return m_object; }
     T& operator*() const { return *m_object; }
+    /// The object, borrowed; null for none.
     operator T*() const { return m_object; }
+    /// The object, borrowed; null for none.
     T* GetPtr() const { return m_object; }
 
     /// Gives up the object without a Release; the caller then owns the reference. Null when there is none.

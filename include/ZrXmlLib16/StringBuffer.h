@@ -4,6 +4,7 @@
 
 #include "ZrXmlLib16/Export.h"
 
+#include <cstring>
 #include <memory>
 #include <string>
 #include <vector>
@@ -22,9 +23,11 @@ public:
     explicit CStringBuffer(unsigned long n);
     virtual ~CStringBuffer();
 
+    /// Appends characters.
     void Append(wchar_t c);
     /// @param text NUL-terminated, may be part of this buffer; null is empty text.
     void Append(const wchar_t* text);
+    /// Appends a text.
     void Append(const std::wstring& text);
     /// Appends a run of characters.
     /// @param text may be part of this buffer; may be null when the length is 0.
@@ -50,6 +53,7 @@ private:
 
     void AddBlock();
     void AddBlock(unsigned long capacity);
+    static void CopyShort(const wchar_t* text, unsigned long length, wchar_t* output);
     void AppendOverBlocks(const wchar_t* text, unsigned long length);
     unsigned long GetUsed(std::size_t block) const;
 
@@ -69,6 +73,40 @@ inline void CStringBuffer::Append(wchar_t c)
     }
     m_current[m_usedInCurrent++] = c;
     ++m_totalLength;
+}
+
+inline void CStringBuffer::Append(const wchar_t* text, unsigned long length)
+{
+    if (length > m_currentCapacity - m_usedInCurrent) {
+        AppendOverBlocks(text, length);
+        return;
+    }
+    CopyShort(text, length, m_current + m_usedInCurrent);
+    m_usedInCurrent += length;
+    m_totalLength += length;
+}
+
+/// Most pieces are a few characters, for which a call would cost more than the copy.
+inline void CStringBuffer::CopyShort(const wchar_t* text, unsigned long length, wchar_t* output)
+{
+    constexpr unsigned long STEP = 4;
+    if (length > 8 * STEP) {
+        std::memcpy(output, text, length * sizeof(wchar_t));
+        return;
+    }
+    for (; length >= STEP; length -= STEP) {
+        std::memcpy(output, text, STEP * sizeof(wchar_t));
+        output += STEP;
+        text += STEP;
+    }
+    if ((length & 2) != 0) {
+        std::memcpy(output, text, 2 * sizeof(wchar_t));
+        output += 2;
+        text += 2;
+    }
+    if ((length & 1) != 0) {
+        *output = *text;
+    }
 }
 
 } // namespace ZrXmlLib16

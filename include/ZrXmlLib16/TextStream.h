@@ -17,25 +17,31 @@ class ZRXML_API CTextStream {
 public:
     /// A stream without encoding: it can be read as text only.
     CTextStream();
+    /// A stream whose text can be read as octets too.
     explicit CTextStream(XmlEncoding encoding);
     virtual ~CTextStream();
 
     /// Begins a new text; what was collected before is dropped.
     virtual void Open();
+    /// Ends the text.
     virtual void Close();
+    /// Writes out what derived classes hold back.
     virtual void Flush();
 
+    /// Appends text.
     void Append(wchar_t c) { m_buffer.Append(c); }
     /// @param text NUL-terminated; null is empty text.
     void Append(const wchar_t* text);
-    void Append(const std::wstring& text);
+    /// Appends a text.
+    void Append(const std::wstring& text) { m_buffer.Append(text.data(), text.size()); }
     /// Appends a run of characters. @param text may be null when the length is 0.
-    void Append(const wchar_t* text, unsigned long length);
+    void Append(const wchar_t* text, unsigned long length) { m_buffer.Append(text, length); }
 
     /// Number of characters collected.
     unsigned long GetLength() const { return m_buffer.GetLength(); }
     /// The collected text, NUL-terminated. The stream owns it; it is valid until the next change.
     const wchar_t* GetText();
+    /// The encoding of the constructor.
     XmlEncoding GetEncoding() const;
 
     /// The collected text as octets, without a byte order mark.

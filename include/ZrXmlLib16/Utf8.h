@@ -13,19 +13,20 @@ namespace ZrXmlLib16 {
 
 /// How a document is written; the members are the arguments of the entry points of CXmlObjectBase.
 struct XmlOutputOptions {
-    bool includeHeader = true;
-    bool formatted = true;
-    XmlEncoding encoding = Encoding_UTF8;
-    EOLType eol = EOL_LF;
-    CompressionType compression = Compression_None;
+    bool includeHeader = true;                      ///< whether the XML declaration is written
+    bool formatted = true;                          ///< whether elements get lines of their own and indentation
+    XmlEncoding encoding = Encoding_UTF8;           ///< of the octets
+    EOLType eol = EOL_LF;                           ///< line end, also inside texts
+    CompressionType compression = Compression_None; ///< files refuse Compression_ZLib
 };
 
-/// UTF-8 of wide text, and back, as CEncoder has it.
+/// UTF-8 of wide text, as CEncoder has it.
 inline std::string ToUtf8(std::wstring_view text)
 {
     return CEncoder::UnicodeToUtf8(text.data(), text.length());
 }
 
+/// Wide text of UTF-8, as CEncoder has it.
 inline std::wstring FromUtf8(std::string_view text)
 {
     return CEncoder::Utf8ToUnicode(reinterpret_cast<const unsigned char*>(text.data()), text.length());

@@ -12,6 +12,7 @@ namespace ZrXmlLib16 {
 ZRXML_API void Register(int major, int minor, const char* text1, const char* text2, const char* text3);
 /// The registered generator version, 0 until Register was called.
 ZRXML_API int GetRegisteredMajor();
+/// The minor part of that version.
 ZRXML_API int GetRegisteredMinor();
 
 } // namespace ZrXmlLib16

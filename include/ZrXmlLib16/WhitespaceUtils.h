@@ -12,8 +12,10 @@ namespace ZrXmlLib16 {
 /// and U+000A. Stateless.
 class ZRXML_API CWhitespaceUtils {
 public:
+    /// The facet whiteSpace; Rule_None leaves the text as it is.
     enum WhitespaceRule : int { Rule_None = 0, Rule_Preserve = 1, Rule_Replace = 2, Rule_Collapse = 3 };
 
+    /// Whether the character is a space, tab, line feed or carriage return.
     static bool IsWhiteSpace(wchar_t c);
 
     /// Normalises line ends: CR LF and a lone CR become LF.

@@ -17,6 +17,7 @@ struct XmlName;
 
 /// Deletes a name that belongs to a single node and leaves alone one that the nodes of a document share.
 struct XmlNameRelease {
+    /// Called by the owner of the name.
     void operator()(const XmlName* name) const noexcept;
 };
 
@@ -33,9 +34,11 @@ public:
 
     /// Empty for no namespace.
     const std::wstring& GetNamespaceURI() const;
+    /// Name without prefix; with it under SchemaType_DTD.
     const std::wstring& GetLocalName() const;
+    /// The value after the parser's normalisation.
     const std::wstring& GetValue() const;
-    /// The owner's path, "/", the prefix and ":" when there is one, "@" and the local name: /order/AA:@code.
+    /// The owner's path, "/", the prefix and ":" when there is one, "@" and the local name: `/order/AA:@id`.
     std::wstring GetXPath() const;
     /// Whether the attribute belongs to the XML infrastructure (xmlns, type, schemaLocation, noNamespaceSchemaLocation
     /// in the instance namespace or the namespace of declarations).
@@ -43,7 +46,9 @@ public:
     /// Whether the attribute is "nil" in one of these two namespaces.
     bool IsNilAttribute() const;
 
+    /// Attributes of a parsed document lie in its memory, others on the heap.
     static void* operator new(std::size_t size);
+    /// Frees either kind.
     static void operator delete(void* node);
 
 private:

@@ -21,6 +21,7 @@ public:
     /// One place of the list; owned by the collection and valid until its item is removed.
     class ZRXML_API CNode {
     public:
+        /// Never null; borrowed.
         CXmlObjectBase* GetItem() const;
         /// Null at the end.
         CNode* GetNext() const;
@@ -36,20 +37,25 @@ public:
         CNode* m_previous;
     };
 
+    /// The arguments of CXmlCollectionBase.
     CXmlCollection(const wchar_t* elementName, const wchar_t* namespaceUri, int minOccurs, int maxOccurs);
     ~CXmlCollection() override;
-    /// Insertions return the new node and throw CZrInvalidParamException for a null item or an existing item that is
-    /// not here.
+    /// Inserts the item at the end. Every insertion returns the new node and throws CZrInvalidParamException for a null
+    /// item or an existing item that is not here.
     CNode* AppendItem(CXmlObjectBase* item);
+    /// Inserts the item at the beginning.
     CNode* PrependItem(CXmlObjectBase* item);
-    /// @param index 0 to GetCount()
+    /// Inserts the item in front of the one of that index. @param index 0 to GetCount()
     CNode* AddItemAt(int index, CXmlObjectBase* item);
+    /// Inserts the item behind the first node of an item that is there.
     CNode* AddAfterItem(CXmlObjectBase* existing, CXmlObjectBase* item);
+    /// Inserts the item in front of the first node of an item that is there.
     CNode* AddBeforeItem(CXmlObjectBase* existing, CXmlObjectBase* item);
-    /// @throws CZrInvalidParamException unless 0 <= index < GetCount(), as does GetNodeAtIndex.
+    /// Removes the item. @throws CZrInvalidParamException unless 0 <= index < GetCount(), as does GetNodeAtIndex.
     void Remove(int index);
-    /// @throws CZrInvalidParamException for a node that is not of this collection.
+    /// Removes the item of the node. @throws CZrInvalidParamException for a node that is not of this collection.
     void RemoveNode(CNode* node);
+    /// The place of the item of that index.
     CNode* GetNodeAtIndex(int index) const;
     /// First node of the item, null when there is none.
     CNode* GetNodeForItem(const CXmlObjectBase* item) const;

@@ -36,14 +36,18 @@ public:
     bool IsValidCount(const CSerializationContext& context) const;
     /// @throws CZrValidationException when IsValidCount would answer false.
     void ValidateCount(const CSerializationContext& context) const;
+    /// @{
     /// Announce a change to all listeners. An index of -1 stands for all items.
     void FireOnCollectionChange();
     void FireOnCollectionAdd(void* item);
     void FireOnCollectionAddComplete(void* item);
     void FireOnCollectionRemove(int index);
     void FireOnCollectionRemoveComplete(int index);
+    /// @}
+    /// Smallest number of items that a document may have.
     int GetMinOccurs() const;
     /// -1 for no maximum.
+    /// Largest number of items that a document may have.
     int GetMaxOccurs() const;
 
     /// Copies names and counts; listeners are not copied.

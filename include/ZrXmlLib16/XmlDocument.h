@@ -26,12 +26,15 @@ struct XmlName;
 /// document belongs to one thread at a time; two documents share nothing.
 class ZRXML_API CXmlDocument {
 public:
+    /// Reads with the default context.
     CXmlDocument();
     /// @param context not owned; outlives the document.
+    /// Reads with the settings of a context.
     explicit CXmlDocument(const CSerializationContext& context);
     /// @param elementEnd called for every element when its end has been read; when it returns true the element is taken
     /// out of the tree and destroyed. The root is kept in any case. Null is none. What the function throws leaves the
     /// load. The function must not load or clean up the document.
+    /// Reads with a function that sees, and may drop, each element as soon as it is complete.
     explicit CXmlDocument(bool (*elementEnd)(CXmlElement*));
     CXmlDocument(bool (*elementEnd)(CXmlElement*), const CSerializationContext& context);
     virtual ~CXmlDocument();
@@ -56,6 +59,7 @@ public:
     /// be read.
     void Load(const wchar_t* fileName);
 
+    /// @{
     /// Convert JSON text into a document in UTF-8, for LoadXmlStream, in the JSON mode of the context. Narrow text is
     /// widened octet by octet; the stream and the file are UTF-8, compressed (gzip, zlib) or not. Nothing stays in
     /// this document. Null is empty.
@@ -65,10 +69,12 @@ public:
     CBinaryData LoadJson(const wchar_t* text);
     CBinaryData LoadJsonStream(const unsigned char* bytes, unsigned long length);
     CBinaryData LoadJsonFile(const wchar_t* fileName);
+    /// @}
 
     /// The root, null when there is none.
     CXmlElement* GetDocumentElement() const;
 
+    /// @{
     /// The operations that build the tree. Elements are opened inside the innermost open one and closed by EndElement.
     /// @throws CZrInvalidStateException when no element is open, except AddDocElement, which replaces the tree.
     CXmlElement* AddDocElement(const std::wstring& namespaceUri, const std::wstring& name);
@@ -80,6 +86,7 @@ public:
     void AppendTextExcludingCR(CXmlElement* element, const std::wstring& text);
     void EndElement();
     void AddNamespaceDeclaration(const std::wstring& prefix, const std::wstring& uri);
+    /// @}
 
     /// Empty when the prefix is unknown; the empty prefix stands for the default namespace.
     std::wstring LookupNamespaceFromAlias(const std::wstring& prefix) const;
@@ -93,8 +100,11 @@ public:
     CXmlElement* GetCurrentElement() const;
     /// The bytes that are being read, decompressed; null outside of a load.
     const unsigned char* GetInputBuffer() const;
+    /// Number of these bytes.
     unsigned long GetInputSize() const;
+    /// How names are taken, as the context said at the last Init.
     SchemaType GetSchemaType() const;
+    /// The context of the constructor.
     const CSerializationContext& GetSerializationContext() const;
 
 private:
@@ -119,16 +129,19 @@ private:
     CXmlElement* OpenDocElement(const XmlName& name);
     CXmlElement* OpenChildElement(const XmlName& name);
     std::unique_ptr<CXmlElement> NewElement(CXmlElement* parent, const XmlName& name);
+    void CountName(const XmlName& name);
     CXmlElement& RequireOpenElement() const;
     CXmlElement& RequireOpenElement(CXmlElement* element) const;
 
     std::unique_ptr<CXmlElement> m_documentElement;
     std::vector<CXmlElement*> m_elementStack;
-    std::map<std::wstring, std::wstring> m_prefixMap; // prefix -> URI
-    std::unique_ptr<unsigned char[]> m_inputBuffer;   // null when the input is the caller's
+    std::map<std::wstring, std::wstring> m_prefixMap;       // prefix -> URI
+    mutable std::map<std::wstring, std::wstring> m_aliases; // URI -> first prefix; empty until it is asked for
+    std::unique_ptr<unsigned char[]> m_inputBuffer;         // null when the input is the caller's
     const unsigned char* m_input;
     unsigned long m_inputSize;
-    unsigned long m_elementCount; // begun since the last clean-up
+    unsigned long m_elementCount;   // begun since the last clean-up
+    unsigned long m_nameCharacters; // of their names and those of their attributes, as far as these are long
     SchemaType m_schemaType;
     bool (*m_elementEnd)(CXmlElement*);
     const CSerializationContext* m_context;

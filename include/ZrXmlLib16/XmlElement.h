@@ -23,6 +23,7 @@ class DocumentStorage;
 /// for reading too.
 class ZRXML_API CXmlElement {
 public:
+    /// An empty element without a name.
     /// @param document not owned, may be null: such an element knows no prefixes.
     /// @param parent not owned, null for a root. The parent's list of children does not change: see
     /// CreateNewChildElement.
@@ -35,11 +36,14 @@ public:
     CXmlElement* CreateNewChildElement();
     /// Takes the last child out of the tree and hands it to the caller; null when there is none.
     CXmlElement* RemoveLastChildElement();
+    /// Appends an attribute, also of a name that is there already.
     void AddAttribute(const std::wstring& localName, const std::wstring& value, const std::wstring& namespaceUri);
     /// Appends the text as it is. Null is empty.
     void AppendText(const wchar_t* text, unsigned long length);
     void AppendText(const std::wstring& text);
+    /// Local name.
     void SetElementName(const std::wstring& name);
+    /// Empty for no namespace.
     void SetNamespace(const std::wstring& namespaceUri);
     /// First child, null when there is none.
     CXmlElement* GetFirstElement() const;
@@ -47,7 +51,9 @@ public:
     CXmlElement* GetNextSiblingElement() const;
     /// Empty for no namespace.
     const std::wstring& GetNamespaceURI() const;
+    /// Name without prefix; with it under SchemaType_DTD.
     const std::wstring& GetLocalName() const;
+    /// The text directly inside the element.
     const std::wstring& GetText() const;
     /// In document order.
     const std::vector<CXmlAttribute*>& GetAttributes() const;
@@ -60,10 +66,14 @@ public:
     /// The way from the root, such as /order/item[2]/price.
     std::wstring GetXPath() const;
 
+    /// Null for a root.
     CXmlElement* GetParent() const;
+    /// Null for an element that was made without one.
     CXmlDocument* GetDocument() const;
 
+    /// Elements of a parsed document lie in its memory, others on the heap.
     static void* operator new(std::size_t size);
+    /// Frees either kind.
     static void operator delete(void* node);
 
 private:

@@ -57,8 +57,10 @@ protected:
     /// Attribute records first, then the attributes that content-only children put onto this element.
     void ProcessAttributesToXml(const CSerializationContext& context, ZrXmlLib16Data::CElementInfo** elements,
         ZrXmlLib16Data::CAttributeInfo** attributes, CXmlWriter* writer) const;
+    /// Calls every record in its order.
     void ProcessElementSeqToXml(
         const CSerializationContext& context, ZrXmlLib16Data::CElementInfo** elements, CXmlWriter* writer) const;
+    /// Calls every record in its order.
     void ProcessElementAllToXml(
         const CSerializationContext& context, ZrXmlLib16Data::CElementInfo** elements, CXmlWriter* writer) const;
     /// Writes the first alternative that is set.
@@ -68,7 +70,10 @@ protected:
     /// Whether a choice may be empty: it has an optional alternative, or a collection with a minimum of 0.
     bool DoesElementContainOptionalElements() const;
 
+    /// Offers every attribute to the attribute records, then lets each of these validate itself. @param rejectUnknown
+    /// whether an attribute that nobody takes is an error
     void ProcessAttributesFromXml(const CSerializationContext& context, CXmlElement* element, bool rejectUnknown);
+    /// @{
     /// Let the element records claim children, starting at the cursor (null: none left).
     /// @return the cursor left over, null when every child was consumed.
     CXmlElement* ProcessElementSeqFromXml(const CSerializationContext& context, CXmlElement* parent,
@@ -77,13 +82,16 @@ protected:
         CXmlElement* cursor, ZrXmlLib16Data::XmlElementType type);
     CXmlElement* ProcessElementChoiceFromXml(const CSerializationContext& context, CXmlElement* parent,
         CXmlElement* cursor, ZrXmlLib16Data::XmlElementType type, bool isOptional);
+    /// @}
     /// Whether any element record of the class recognises the element.
     bool IsElementInList(const CSerializationContext& context, const CXmlElement* element) const;
 
+    /// @name Choices
     /// Keep at most one alternative of a choice set; called by generated setters, readers and event handlers. An
     /// alternative is unset by storing an invalid variant into its property, or by clearing its collection. Calls that
     /// this gives rise to do nothing.
     /// @{
+
     /// Unsets every alternative but this one.
     void Choice_SelectElement(int propertyId);
     /// Selects the alternative when it is valid, unsets it when it is not.

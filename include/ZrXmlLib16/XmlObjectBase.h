@@ -158,6 +158,7 @@ protected:
     virtual CXmlElement* FromXml_Int(
         CXmlElement* element, CXmlElement* firstChild, const CSerializationContext& context, bool isOptional) = 0;
 
+    /// @{
     /// Call the virtual operation of the same name on another object.
     static void ToXml_Int(const CXmlObjectBase* object, CXmlWriter* writer, bool isRoot, const wchar_t* namespaceUri,
         const CSerializationContext& context, bool isOptional);
@@ -165,21 +166,25 @@ protected:
         const CXmlObjectBase* object, CXmlWriter* writer, const CSerializationContext& context);
     static CXmlElement* FromXml_Int(
         CXmlObjectBase* object, CXmlElement* element, CXmlElement* firstChild, const CSerializationContext& context);
+    /// @}
 
     /// Whether the element has the name, under the schema type and namespace settings of the context.
     static bool DoesElementNameMatch(const CSerializationContext& context, const CXmlElement* element,
         const std::wstring& name, const std::wstring& namespaceUri);
 
+    /// @{
     /// Tell one listener of one change. An index of -1 stands for all items.
     static void FireOnCollectionChangeEvent(IEventSink* listener, CXmlCollectionBase* collection);
     static void FireOnCollectionAddEvent(IEventSink* listener, CXmlCollectionBase* collection, void* item);
     static void FireOnCollectionAddCompleteEvent(IEventSink* listener, CXmlCollectionBase* collection, void* item);
     static void FireOnCollectionRemoveEvent(IEventSink* listener, CXmlCollectionBase* collection, int index);
     static void FireOnCollectionRemoveCompleteEvent(IEventSink* listener, CXmlCollectionBase* collection, int index);
+    /// @}
 
     /// Fills the object from what CXmlDocument::LoadJson returned.
     void FromJson_Int(const CBinaryData& bytes, const CSerializationContext& context);
 
+    /// No name, no references.
     CXmlObjectBase();
     /// Copies the element name only; the copy counts no references.
     CXmlObjectBase(const CXmlObjectBase& other);

@@ -44,10 +44,9 @@ public:
     static void CheckRestriction(
         const wchar_t* name, const ZrVariant& value, ItemType type, const CPrimitiveRestrictions& facets);
 
-    /// @name One check per type
-    /// They throw as CheckRestriction does. Numbers, dates and durations are checked against the four bounds; a NaN and
-    /// a date or duration whose order is indeterminate violate every bound.
     /// @{
+    /// One check per type. They throw as CheckRestriction does. Numbers, dates and durations are checked against the
+    /// four bounds; a NaN and a date or duration whose order is indeterminate violate every bound.
     static void CheckRestrictionFori1(const wchar_t* name, char value, const CPrimitiveRestrictions& facets);
     static void CheckRestrictionFori2(const wchar_t* name, short value, const CPrimitiveRestrictions& facets);
     static void CheckRestrictionFori4(const wchar_t* name, long value, const CPrimitiveRestrictions& facets);
@@ -77,11 +76,13 @@ public:
     /// Checks nothing.
     static void CheckRestrictionFormonthYear(
         const wchar_t* name, const CDateTime& value, const CPrimitiveRestrictions& facets);
+    /// Against the four bounds.
     static void CheckRestrictionForduration(
         const wchar_t* name, const CDateTimeSpan& value, const CPrimitiveRestrictions& facets);
     /// Bounds, totalDigits and fractionDigits.
     static void CheckRestrictionFordecimal(
         const wchar_t* name, const CDecimal& value, const CPrimitiveRestrictions& facets);
+    /// Against the four bounds.
     static void CheckRestrictionForinteger(
         const wchar_t* name, const CBigInteger& value, const CPrimitiveRestrictions& facets);
     /// Length facets, in wide characters, and pattern.
@@ -90,6 +91,7 @@ public:
     /// Length facets, in octets.
     static void CheckRestrictionForhexBinary(
         const wchar_t* name, const CBinaryData& value, const CPrimitiveRestrictions& facets);
+    /// Length facets, in octets.
     static void CheckRestrictionForbase64Binary(
         const wchar_t* name, const CBinaryData& value, const CPrimitiveRestrictions& facets);
     /// Checks nothing.
@@ -98,12 +100,14 @@ public:
 
     /// Whether the whole text matches a pattern.
     /// @param pattern UTF-8, XML Schema notation (Datatypes, appendix F) as far as the Perl-compatible engine shares
-    /// it; the classes \i, \c, \I, \C and the first four Unicode blocks are translated. The class \w knows ASCII only.
+    /// it; the classes `\i`, `\c`, `\I`, `\C` and the first four Unicode blocks are translated. The class `\w` knows
+    /// ASCII only.
     /// @throws CZrException "Invalid Regular Expression: ..." for a pattern that cannot be compiled or needs too much
     /// memory.
     static bool TestRegEx(std::string pattern, std::wstring text);
-    /// Digits before the point without leading zeros, digits behind it without trailing zeros.
+    /// Digits before the point without leading zeros.
     static long GetDecimalIntegerPartLen(const CDecimal& value);
+    /// Digits behind the point without trailing zeros.
     static long GetDecimalFractionPartLen(const CDecimal& value);
 };
 

@@ -40,6 +40,7 @@ public:
     virtual void AddFromString(std::wstring text) = 0;
     int GetCount() const override = 0;
     void Clear() override = 0;
+    /// Type of the items.
     ItemType GetItemType() const;
 
 protected:

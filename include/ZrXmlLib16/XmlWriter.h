@@ -18,6 +18,8 @@ class CRecordAccess;
 
 namespace ZrXmlLib16 {
 
+class CNillableMemory;
+
 /// Receives a document as a sequence of events and writes it in some format.
 ///
 /// Order of calls: Open; SetDefaultNamespace and AddNamespace for the root; one element tree (start, attributes, then
@@ -27,7 +29,7 @@ class ZRXML_API CXmlWriter {
 public:
     /// The namespace of the prefix "xml".
     static const std::wstring XML_NAMESPACE;
-    typedef std::map<std::wstring, std::wstring> NamespaceMap; // URI -> prefix
+    typedef std::map<std::wstring, std::wstring> NamespaceMap; ///< URI to prefix
 
     /// Where the current element is inside a collection. Only formats with arrays look at it.
     enum ContextState : int {
@@ -44,15 +46,16 @@ public:
         CXmlWriterContext(const CXmlWriterContext&) = delete;
         CXmlWriterContext& operator=(const CXmlWriterContext&) = delete;
 
+        /// The default namespace in scope, empty for none.
         std::wstring GetDefaultNamespace() const;
-        /// Ends the inheritance: the parent's prefixes are copied.
+        /// Ends the inheritance: the parent's prefixes stay in scope.
         void SetDefaultNamespace(const std::wstring& namespaceUri);
         /// The prefixes in scope, which may be an ancestor's.
         NamespaceMap& GetNamespaceMap();
         /// The prefix in scope. Enters an empty prefix for an unknown URI. Null is the empty URI.
         std::wstring GetNamespaceMapValue(const wchar_t* namespaceUri);
         std::wstring GetNamespaceMapValue(const std::wstring& namespaceUri);
-        /// Ends the inheritance: the parent's prefixes and default namespace are copied.
+        /// Ends the inheritance: the parent's prefixes stay in scope and its default namespace is copied.
         void SetNamespaceMapValue(const std::wstring& namespaceUri, const std::wstring& prefix);
         /// The prefix in scope, null when there is none or an empty one. Valid until the prefixes change.
         const std::wstring* FindPrefix(const std::wstring& namespaceUri) const;
@@ -67,7 +70,14 @@ public:
         void BeginRoot(unsigned long depth, const std::wstring& defaultNamespace, const NamespaceMap& namespaceMap);
         void BeginChild(CXmlWriterContext& parent);
         void SetName(const std::wstring& localName, const std::wstring& namespaceUri);
-        void CopyParentMap();
+        void BeginScope();
+        void CompleteMap();
+        const NamespaceMap::value_type* FindEntry(const std::wstring& namespaceUri) const;
+        void EnterPrefix(const std::wstring& namespaceUri, const std::wstring& prefix);
+        std::wstring InventPrefix();
+        void CollectPrefixNumbers();
+        /// The scope around this one; null when there is none or this one repeats what it holds.
+        CXmlWriterContext* GetOuterScope() const { return m_isComplete ? nullptr : m_parent->m_scope; }
 
         int m_childCount;
         bool m_startTagOpen;
@@ -78,6 +88,10 @@ public:
         ContextState m_state;
         std::wstring m_defaultNamespace; // of this scope
         NamespaceMap m_namespaceMap;     // of this scope
+        bool m_isComplete;               // whether the map repeats the prefixes of the outer scopes
+        bool m_knowsPrefixNumbers;
+        std::vector<bool> m_takenPrefixNumbers; // of this scope and the outer ones, when known
+        std::size_t m_firstFreePrefixNumber;    // none below it is free
         bool m_inherits;
         CXmlWriterContext* m_scope;                          // the nearest context that does not inherit
         mutable const NamespaceMap::value_type* m_lastFound; // of this scope; saves most searches
@@ -85,8 +99,9 @@ public:
     };
 
     virtual ~CXmlWriter();
+    /// Begins a document.
     virtual void Open();
-    /// @throws CZrException while an element is open.
+    /// Ends the document. @throws CZrException while an element is open.
     virtual void Close();
     /// For the root before it starts, for the current element afterwards. Writes nothing by itself.
     virtual void SetDefaultNamespace(const std::wstring& namespaceUri);
@@ -94,14 +109,21 @@ public:
     /// prefix given to an open element has to be declared by the caller. Two URIs with the same prefix make the
     /// document invalid.
     virtual void AddNamespace(const std::wstring& prefix, const std::wstring& namespaceUri);
+    /// Writes a comment. @param text without its delimiters
     virtual void WriteComment(const std::wstring& text) = 0;
-    /// @param text the whole processing instruction, delimiters included.
+    /// Writes a processing instruction. @param text the whole processing instruction, delimiters included.
     virtual void WritePI(const std::wstring& text) = 0;
+    /// Writes the text of CSerializationContext::GetInLineSchema().
     virtual void WriteInlineSchema(const std::wstring& text) = 0;
+    /// Opens an element. @param name local name @param namespaceUri empty for none
     virtual void WriteStartElement(const std::wstring& name, const std::wstring& namespaceUri) = 0;
+    /// Writes text of the current element. @param type item type of the value, which is text already
     /// @param isDefault whether the value equals the default that the schema gives.
     virtual void WriteString(const std::wstring& value, ItemType type, bool isDefault) = 0;
+    /// Closes the current element.
     virtual void WriteEndElement() = 0;
+    /// Writes an attribute of the current element, which has no content yet. @param type item type of the value, which
+    /// is text already
     virtual void WriteAttributeString(
         const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& value, ItemType type) = 0;
     /// Writes xsi:type with the qualified name of a type.
@@ -133,7 +155,9 @@ protected:
     bool IsPrefixed(const std::wstring& namespaceUri) const;
     /// The prefix in scope of the current element; invents one when there is none. Valid until the prefixes change.
     const std::wstring& ObtainPrefix(const std::wstring& namespaceUri, bool& isNew);
+    /// What SetDefaultNamespace set before the root.
     const std::wstring& GetRootDefaultNamespace() const { return m_defaultNamespace; }
+    /// What AddNamespace added before the root.
     const NamespaceMap& GetRootNamespaceMap() const { return m_namespaceMap; }
 
 private:
@@ -145,6 +169,7 @@ private:
     std::vector<std::unique_ptr<CXmlWriterContext>> m_contexts; // by nesting; closed ones are kept for reuse
     std::size_t m_openContexts;
     std::wstring m_scratch; // for the values that records format
+    std::unique_ptr<CNillableMemory> m_nillables;
 };
 
 } // namespace ZrXmlLib16

@@ -11,6 +11,7 @@ namespace ZrXmlLib16 {
 /// A plain, non-recursive mutex.
 class ZRXML_API CZRCriticalSection {
 public:
+    /// Free.
     CZRCriticalSection();
     ~CZRCriticalSection();
     CZRCriticalSection(const CZRCriticalSection&) = delete;
@@ -24,6 +25,7 @@ public:
     /// Holds a section for the length of a scope.
     class ZRXML_API CGuard {
     public:
+        /// Locks the section, which is not owned; the destructor unlocks it.
         explicit CGuard(CZRCriticalSection& section);
         ~CGuard();
         CGuard(const CGuard&) = delete;

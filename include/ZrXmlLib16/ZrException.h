@@ -15,7 +15,9 @@ namespace ZrXmlLib16 {
 /// synchronised.
 class ZRXML_API CZrException {
 public:
+    /// No message, path and cause.
     CZrException();
+    /// A message without path and cause.
     explicit CZrException(const std::wstring& message);
     /// @param inner the cause; a clone of it is kept.
     CZrException(const std::wstring& message, const CZrException& inner);

@@ -30,18 +30,23 @@ public:
     /// Invalid: type none, not nil.
     ZrVariant()
         : m_nil(false)
+        , m_mayBorrow(false)
+        , m_isBorrowed(false)
         , m_type(ItemType_none)
     {
     }
+    /// Copies the value; shares an object or collection.
     ZrVariant(const ZrVariant& other);
     virtual ~ZrVariant();
     ZrVariant& operator=(const ZrVariant& other);
 
     /// True when there is a type or the value is nil.
     bool IsValid() const { return m_nil || m_type != ItemType_none; }
+    /// Drops the value; the variant is then invalid.
     void SetInvalid() { Clear(); }
     /// Drops the value and keeps the type.
     void SetNil();
+    /// Whether the value is nil.
     bool IsNil() const { return m_nil; }
     /// Drops the value; the variant is then invalid.
     void Clear()
@@ -51,6 +56,9 @@ public:
         }
     }
 
+    /// @{
+    /// Set: clears what is there and stores a value of the type that the name says. Get: the value of that type,
+    /// borrowed when it is a class.
     void SetHexBinary(const CBinaryData& value);
     const CBinaryData& GetHexBinary() const;
     void SetBase64Binary(const CBinaryData& value);
@@ -95,29 +103,40 @@ public:
     const CDateTime& GetTime() const;
     void SetChar(wchar_t value) { Restart(ItemType_char).character = value; }
     wchar_t GetChar() const { return m_value.character; }
+    /// @}
+    /// Stores a string, which may be moved in.
     void SetString(std::wstring value);
     /// Copies a text into the storage of the string that is already there, if there is one.
     /// @param text not null; may lie in the variant's own string.
     void SetString(const wchar_t* text, unsigned long length);
+    /// The same for a string that stays as it is while the variant is in use. A variant that the library reads at once
+    /// refers to it; any other one copies it.
+    void LendString(const std::wstring& value);
+    /// The string, borrowed until the next change.
     const std::wstring& GetString() const;
     /// Moves the string out, which a setter may do with the value it is given; empty when the value is none. The
     /// variant stays a string, of unspecified text.
     std::wstring TakeString();
+    /// @{
+    /// As the setters and getters above.
     void SetBoolean(bool value) { Restart(ItemType_boolean).boolean = value; }
     bool GetBoolean() const { return m_value.ui1 != 0; }
     void SetDecimal(const CDecimal& value);
     const CDecimal& GetDecimal() const;
     void SetInteger(const CBigInteger& value);
     const CBigInteger& GetInteger() const;
+    /// @}
     /// Takes a reference to the object. @param value may be null.
     void SetXmlObject(CXmlObjectBase* value);
     /// The same, with the reference that the caller has.
     void AdoptXmlObject(CSmartPtr<CXmlObjectBase> value);
+    /// The object with a new reference; null when the value is none.
     CSmartPtr<CXmlObjectBase> GetXmlObject() const;
     /// Moves the reference out, so that the variant holds null afterwards; null when the value is no object.
     CSmartPtr<CXmlObjectBase> TakeXmlObject();
     /// Takes a reference to the collection. @param value may be null.
     void SetXmlCollection(CXmlCollectionBase* value);
+    /// The collection with a new reference; null when the value is none.
     CSmartPtr<CXmlCollectionBase> GetXmlCollection() const;
 
     /// The text form of the value.
@@ -133,13 +152,24 @@ public:
     /// The name of the type. @throws CZrException when it has none.
     const wchar_t* GetType() const;
 
+    /// Type of the value, also of nil; ItemType_none when invalid.
     ItemType GetItemType() const { return m_type; }
     /// The object without a new reference, valid as long as the variant keeps it; null when the value is none.
     CXmlObjectBase* BorrowXmlObject() const;
     /// The collection without a new reference, valid as long as the variant keeps it; null when the value is none.
     CXmlCollectionBase* BorrowXmlCollection() const;
+    /// Takes the value over; the other variant is then invalid.
     ZrVariant(ZrVariant&& other) noexcept;
     ZrVariant& operator=(ZrVariant&& other) noexcept;
+
+protected:
+    struct Borrowing { };
+    /// Invalid; refers to the string that it is lent.
+    explicit ZrVariant(Borrowing)
+        : ZrVariant()
+    {
+        m_mayBorrow = true;
+    }
 
 private:
     /// Scalars of all sizes share the first eight bytes; the class members are constructed and destroyed by the
@@ -167,6 +197,7 @@ private:
         CDateTimeSpan duration;
         CDateTime dateTime;
         std::wstring string;
+        const std::wstring* borrowed; // when m_isBorrowed
         CDecimal decimal;
         CBigInteger integer;
         CSmartPtr<CXmlObjectBase> object;
@@ -181,12 +212,15 @@ private:
         return m_value;
     }
     void DropValue();
+    void Borrow(const std::wstring& value) noexcept;
     void CopyFrom(const ZrVariant& other);
     void MoveFrom(ZrVariant& other) noexcept;
     template <class T> void Store(ItemType type, T Value::*member, T value);
     template <class T> const T& Read(ItemType type, T Value::*member) const;
 
     bool m_nil;
+    bool m_mayBorrow;
+    bool m_isBorrowed; // the type is string, and the value is somebody else's
     ItemType m_type;
     Value m_value;
 };

@@ -45,6 +45,7 @@
 #include "ZrXmlLib16/JsonTextReader.h"
 #include "ZrXmlLib16/JsonTextWriter.h"
 #include "ZrXmlLib16/NamespaceAliasMap.h"
+#include "ZrXmlLib16/NodeText.h"
 #include "ZrXmlLib16/PrimitiveRestrictions.h"
 #include "ZrXmlLib16/Ranges.h"
 #include "ZrXmlLib16/SchemaType.h"

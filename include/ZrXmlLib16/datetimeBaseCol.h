@@ -14,6 +14,7 @@ namespace ZrXmlLib16 {
 /// value's kind says.
 class ZRXML_API CdatetimeBaseCol : public CXmlTypeCollection {
 public:
+    /// The arguments of CXmlTypeCollection.
     CdatetimeBaseCol(ItemType type, const wchar_t* name, const wchar_t* namespaceUri, int minOccurs, int maxOccurs,
         const wchar_t* pattern, long minLength, long maxLength, const wchar_t* minInclusive,
         const wchar_t* maxInclusive, const wchar_t* minExclusive, const wchar_t* maxExclusive, long length,
@@ -28,6 +29,7 @@ public:
     /// @throws CZrInvalidParamException unless 0 <= index < GetCount(), as does Remove. The reference lasts until
     /// the collection changes.
     const CDateTime& Item(int index) const;
+    /// Removes the item of that index; announced.
     void Remove(int index);
     int GetCount() const override;
     void Clear() override;

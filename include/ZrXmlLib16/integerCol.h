@@ -29,6 +29,7 @@ public:
     /// @throws CZrInvalidParamException unless 0 <= index < GetCount(), as does Remove. The reference lasts until
     /// the collection changes.
     const CBigInteger& Item(int index) const;
+    /// Removes the item of that index; announced.
     void Remove(int index);
     int GetCount() const override;
     void Clear() override;

@@ -27,6 +27,7 @@ public:
     void AddFromString(std::wstring text) override;
     /// @throws CZrInvalidParamException unless 0 <= index < GetCount(), as does Remove.
     float Item(int index) const;
+    /// Removes the item of that index; announced.
     void Remove(int index);
     int GetCount() const override;
     void Clear() override;

@@ -51,8 +51,10 @@ public:
     /// The wildcard rules of CXmlObjectHelper.
     static bool TestNamespace(const std::wstring& namespaceUri, const std::wstring& namespaceSpecification,
         const std::wstring& targetNamespace);
+    /// The wildcard rules of CXmlObjectHelper.
     static bool IsNamespaceValid(const std::wstring& namespaceUri, const std::wstring& namespaceSpecification,
         const std::wstring& targetNamespace);
+    /// GetTargetNamespace() of the object.
     static std::wstring GetTargetNamespace(const ZrXmlLib16::CXmlObjectBase* object);
     /// Calls the operation of the same name on the object.
     static void ToXml_Int(const ZrXmlLib16::CXmlObjectBase* object, ZrXmlLib16::CXmlWriter* writer, bool isRoot,
@@ -62,11 +64,13 @@ public:
     CAttributeInfo& operator=(const CAttributeInfo&) = delete;
 
 protected:
-    /// Call the accessor; its CZrException is wrapped in a CZrValidationException, on setting with the path of the
+    /// Calls the accessor; its CZrException is wrapped in a CZrValidationException, on setting with the path of the
     /// attribute.
     void InvokePropertyGet(ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::ZrVariant& value) const;
+    /// The same for storing.
     void InvokePropertySet(ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::ZrVariant& value,
         const ZrXmlLib16::CXmlAttribute& source) const;
+    /// Calls the accessor; its exceptions pass.
     void ReadProperty(const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::ZrVariant& value) const;
 
     /// Whether an optional attribute of this text is to be left out because it equals its default.
@@ -75,8 +79,11 @@ protected:
     bool HasName(const ZrXmlLib16::CXmlAttribute& attribute) const;
     /// @throws CZrValidationException unless the attribute was found or is optional.
     void RequireFound(bool found) const;
+    /// Local name of the attribute.
     const std::wstring& AttributeName() const;
+    /// Namespace of the attribute, empty for none.
     const std::wstring& Namespace() const;
+    /// Whether the attribute may be missing.
     bool IsOptional() const;
 
 private:

@@ -10,6 +10,7 @@ namespace ZrXmlLib16Data {
 /// Record of an attribute that holds an enumeration value.
 class ZRXML_API CAttributeInfoEnum : public CAttributeInfo {
 public:
+    /// See CAttributeInfo, and EnumToString and StringToEnum in ElementInfo.h.
     CAttributeInfoEnum(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool optional,
         const wchar_t* (*enumToString)(int), int (*stringToEnum)(const wchar_t*), const wchar_t* defaultValue);
     ~CAttributeInfoEnum() override;

@@ -33,23 +33,25 @@ class CRecordAccess;
 /// Generated converters between an enumeration value and its lexical form. The first returns null for an unknown value,
 /// the second throws for an unknown text.
 typedef const wchar_t* (*EnumToString)(int value);
+/// The other converter; see EnumToString.
 typedef int (*StringToEnum)(const wchar_t* text);
 /// Generated factories: a new object of a class, and the object that an element stands for (null for none).
 typedef ZrXmlLib16::CSmartPtr<ZrXmlLib16::CXmlObjectBase> (*ClassFactory)(int classId, const wchar_t* name);
+/// The factory for elements whose class is not fixed; see ClassFactory.
 typedef ZrXmlLib16::CSmartPtr<ZrXmlLib16::CXmlObjectBase> (*AbstractClassFactory)(ZrXmlLib16::CXmlElement* element);
 
 /// What the class-valued records keep beside the base fields.
 struct CClassRecordData {
-    XmlElementType childType;
-    ClassFactory factory;
-    int classId;
+    XmlElementType childType; ///< how the child is represented
+    ClassFactory factory;     ///< makes the child; null for none, which is an error when a child has to be made
+    int classId;              ///< first argument of the factory
     bool createInline; ///< whether a content-only child is created by the factory rather than taken from the property
 };
 
 /// What the records of abstract classes keep beside the base fields.
 struct CAbstractClassRecordData {
-    XmlElementType childType;
-    AbstractClassFactory factory;
+    XmlElementType childType;     ///< how the child is represented
+    AbstractClassFactory factory; ///< makes the child that an element stands for; not null
 };
 
 /// Describes one child element, or one alternative of a choice, of a generated class: name, type, facets, and how it is
@@ -101,8 +103,11 @@ public:
     static std::wstring GetAnyDefaultNamespace(
         const wchar_t* namespaceSpecification, const wchar_t* currentDefault, const wchar_t* targetNamespace);
 
+    /// Index given to the accessor of the generated class.
     int GetPropertyId() const;
+    /// Local name of the element.
     const std::wstring& GetElementName() const;
+    /// Namespace of the element, empty for none.
     const std::wstring& GetNamespace() const;
     /// Whether the property is a collection, which consumes any number of elements.
     bool IsCollection() const;
@@ -119,17 +124,22 @@ public:
     CElementInfo& operator=(const CElementInfo&) = delete;
 
 protected:
-    /// Call the accessor; its CZrException is wrapped in a CZrValidationException, on setting with the path of the
+    /// Calls the accessor; its CZrException is wrapped in a CZrValidationException, on setting with the path of the
     /// source element.
     void InvokePropertyGet(ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::ZrVariant& value) const;
+    /// The same for storing.
     void InvokePropertySet(ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::ZrVariant& value,
         const ZrXmlLib16::CXmlElement& source) const;
+    /// Calls the accessor; its exceptions pass.
     void ReadProperty(const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::ZrVariant& value) const;
     /// Call the operation of the same name on the child.
     ZrXmlLib16::CXmlElement* FromXml_Int(ZrXmlLib16::CXmlObjectBase* child, ZrXmlLib16::CXmlElement* element,
         ZrXmlLib16::CXmlElement* firstChild, const ZrXmlLib16::CSerializationContext& context, bool isOptional);
+    /// Calls the operation of the same name on the child.
     void AttributesToXml_Int(const ZrXmlLib16::CXmlObjectBase* object, ZrXmlLib16::CXmlWriter* writer,
         const ZrXmlLib16::CSerializationContext& context) const;
+    /// @{
+    /// Write the element with a value of that kind. @return whether something was written.
     bool ElementToXmlPrim(const ZrXmlLib16::CSerializationContext& context,
         const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlWriter* writer) const;
     bool ElementToXmlEnum(const ZrXmlLib16::CSerializationContext& context,
@@ -138,14 +148,18 @@ protected:
         ZrXmlLib16::CXmlWriter* writer, bool isOptional) const;
     bool ElementToXmlCol(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlWriter* writer) const;
+    /// @}
+    /// @{
     /// Read *current, which the caller has matched, and move it to the next sibling.
     void ElementFromXmlPrim(const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlElement** current);
     void ElementFromXmlEnum(const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::CXmlElement** current);
+    /// @}
 
     /// Constructors of derived records say here what the questions above answer.
     void MarkAsCollection();
+    /// Whether the child has no element of its own: IsInline.
     void MarkChildType(XmlElementType childType);
     /// For untyped elements. One that is named "AnyElement" is a wildcard, which accepts any name.
     void MarkAsUntyped();

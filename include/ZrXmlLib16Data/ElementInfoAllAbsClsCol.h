@@ -11,6 +11,8 @@ namespace ZrXmlLib16Data {
 /// on reading.
 class ZRXML_API CElementInfoAllAbsClsCol : public CElementInfoAllCol {
 public:
+    /// See CElementInfo.
+    /// @param childType how the items are represented
     CElementInfoAllAbsClsCol(
         const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType);
     ~CElementInfoAllAbsClsCol() override;

@@ -11,6 +11,7 @@ namespace ZrXmlLib16Data {
 /// on reading.
 class ZRXML_API CElementInfoAllAbsClsMnd : public CElementInfo {
 public:
+    /// See CElementInfo and CAbstractClassRecordData.
     CElementInfoAllAbsClsMnd(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType,
         AbstractClassFactory factory);
     ~CElementInfoAllAbsClsMnd() override;

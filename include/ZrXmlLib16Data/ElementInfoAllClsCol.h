@@ -10,6 +10,8 @@ namespace ZrXmlLib16Data {
 /// Record of a repeated element in an xs:all whose content is a generated class.
 class ZRXML_API CElementInfoAllClsCol : public CElementInfoAllCol {
 public:
+    /// See CElementInfo.
+    /// @param childType how the items are represented
     CElementInfoAllClsCol(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType);
     ~CElementInfoAllClsCol() override;
     void PseudoChildAttributeToXml(const ZrXmlLib16::CSerializationContext& context,

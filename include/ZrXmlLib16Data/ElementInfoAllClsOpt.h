@@ -10,6 +10,7 @@ namespace ZrXmlLib16Data {
 /// Record of an optional element in an xs:all whose content is a generated class.
 class ZRXML_API CElementInfoAllClsOpt : public CElementInfo {
 public:
+    /// See CElementInfo and CClassRecordData.
     CElementInfoAllClsOpt(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType,
         ClassFactory factory, int classId, bool createInline);
     ~CElementInfoAllClsOpt() override;

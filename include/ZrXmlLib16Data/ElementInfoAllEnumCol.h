@@ -10,6 +10,7 @@ namespace ZrXmlLib16Data {
 /// Kept abstract: a repeated enumerated element cannot occur inside xs:all.
 class ZRXML_API CElementInfoAllEnumCol : public CElementInfoAllCol {
 public:
+    /// The arguments are those of CElementInfo.
     CElementInfoAllEnumCol(const wchar_t* name, const wchar_t* namespaceUri, int propertyId);
     ~CElementInfoAllEnumCol() override;
     bool ElementToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,

@@ -10,6 +10,7 @@ namespace ZrXmlLib16Data {
 /// Record of a mandatory element in an xs:all whose content is an enumerated value.
 class ZRXML_API CElementInfoAllEnumMnd : public CElementInfo {
 public:
+    /// The arguments are those of CElementInfo.
     CElementInfoAllEnumMnd(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool nillable,
         EnumToString enumToString, StringToEnum stringToEnum, const wchar_t* defaultValue);
     ~CElementInfoAllEnumMnd() override;

@@ -10,6 +10,7 @@ namespace ZrXmlLib16Data {
 /// Record of a repeated element in an xs:all whose content is a primitive value.
 class ZRXML_API CElementInfoAllPrimCol : public CElementInfoAllCol {
 public:
+    /// The arguments are those of CElementInfo.
     CElementInfoAllPrimCol(const wchar_t* name, const wchar_t* namespaceUri, int propertyId);
     ~CElementInfoAllPrimCol() override;
 };

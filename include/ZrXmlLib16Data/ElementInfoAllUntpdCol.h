@@ -11,6 +11,7 @@ namespace ZrXmlLib16Data {
 /// any name.
 class ZRXML_API CElementInfoAllUntpdCol : public CElementInfoAllCol {
 public:
+    /// The arguments are those of CElementInfo.
     CElementInfoAllUntpdCol(const wchar_t* name, const wchar_t* namespaceUri, int propertyId);
     ~CElementInfoAllUntpdCol() override;
 };

@@ -11,6 +11,8 @@ namespace ZrXmlLib16Data {
 /// one on reading.
 class ZRXML_API CElementInfoChoiceAbsClsCol : public CElementInfoChoiceCol {
 public:
+    /// See CElementInfo.
+    /// @param childType how the items are represented
     CElementInfoChoiceAbsClsCol(
         const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType);
     ~CElementInfoChoiceAbsClsCol() override;

@@ -10,6 +10,8 @@ namespace ZrXmlLib16Data {
 /// Record of a repeated element in an xs:choice whose content is a generated class.
 class ZRXML_API CElementInfoChoiceClsCol : public CElementInfoChoiceCol {
 public:
+    /// See CElementInfo.
+    /// @param childType how the items are represented
     CElementInfoChoiceClsCol(
         const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType);
     ~CElementInfoChoiceClsCol() override;

@@ -10,6 +10,7 @@ namespace ZrXmlLib16Data {
 /// Record of an optional element in an xs:choice whose content is a generated class.
 class ZRXML_API CElementInfoChoiceClsOpt : public CElementInfo {
 public:
+    /// See CElementInfo and CClassRecordData.
     CElementInfoChoiceClsOpt(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType,
         ClassFactory factory, int classId, bool createInline);
     ~CElementInfoChoiceClsOpt() override;

@@ -11,6 +11,7 @@ namespace ZrXmlLib16Data {
 /// Base of every collection record of its group.
 class ZRXML_API CElementInfoChoiceCol : public CElementInfo {
 public:
+    /// The arguments are those of CElementInfo.
     CElementInfoChoiceCol(const wchar_t* name, const wchar_t* namespaceUri, int propertyId);
     ~CElementInfoChoiceCol() override;
     bool ElementToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,

@@ -10,6 +10,7 @@ namespace ZrXmlLib16Data {
 /// Record of an optional element in an xs:choice whose content is an enumerated value.
 class ZRXML_API CElementInfoChoiceEnumOpt : public CElementInfo {
 public:
+    /// The arguments are those of CElementInfo.
     CElementInfoChoiceEnumOpt(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool nillable,
         EnumToString enumToString, StringToEnum stringToEnum, const wchar_t* defaultValue);
     ~CElementInfoChoiceEnumOpt() override;

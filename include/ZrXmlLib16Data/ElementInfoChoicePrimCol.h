@@ -10,6 +10,7 @@ namespace ZrXmlLib16Data {
 /// Record of a repeated element in an xs:choice whose content is a primitive value.
 class ZRXML_API CElementInfoChoicePrimCol : public CElementInfoChoiceCol {
 public:
+    /// The arguments are those of CElementInfo.
     CElementInfoChoicePrimCol(const wchar_t* name, const wchar_t* namespaceUri, int propertyId);
     ~CElementInfoChoicePrimCol() override;
 };

@@ -11,6 +11,7 @@ namespace ZrXmlLib16Data {
 /// takes any name.
 class ZRXML_API CElementInfoChoiceUntpdCol : public CElementInfoChoiceCol {
 public:
+    /// The arguments are those of CElementInfo.
     CElementInfoChoiceUntpdCol(const wchar_t* name, const wchar_t* namespaceUri, int propertyId);
     ~CElementInfoChoiceUntpdCol() override;
     bool ElementFromXml(const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlGeneratedClass* object,

@@ -11,6 +11,8 @@ namespace ZrXmlLib16Data {
 /// one on reading.
 class ZRXML_API CElementInfoSeqAbsClsCol : public CElementInfoSeqCol {
 public:
+    /// See CElementInfo.
+    /// @param childType how the items are represented
     CElementInfoSeqAbsClsCol(
         const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType);
     ~CElementInfoSeqAbsClsCol() override;

@@ -11,6 +11,7 @@ namespace ZrXmlLib16Data {
 /// one on reading.
 class ZRXML_API CElementInfoSeqAbsClsMnd : public CElementInfo {
 public:
+    /// See CElementInfo and CAbstractClassRecordData.
     CElementInfoSeqAbsClsMnd(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType,
         AbstractClassFactory factory);
     ~CElementInfoSeqAbsClsMnd() override;

@@ -10,6 +10,8 @@ namespace ZrXmlLib16Data {
 /// Record of a repeated element in an xs:sequence whose content is a generated class.
 class ZRXML_API CElementInfoSeqClsCol : public CElementInfoSeqCol {
 public:
+    /// See CElementInfo.
+    /// @param childType how the items are represented
     CElementInfoSeqClsCol(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType);
     ~CElementInfoSeqClsCol() override;
     void PseudoChildAttributeToXml(const ZrXmlLib16::CSerializationContext& context,

@@ -10,6 +10,7 @@ namespace ZrXmlLib16Data {
 /// Record of a mandatory element in an xs:sequence whose content is a generated class.
 class ZRXML_API CElementInfoSeqClsMnd : public CElementInfo {
 public:
+    /// See CElementInfo and CClassRecordData.
     CElementInfoSeqClsMnd(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType,
         ClassFactory factory, int classId, bool createInline);
     ~CElementInfoSeqClsMnd() override;

@@ -10,6 +10,7 @@ namespace ZrXmlLib16Data {
 /// Record of an optional element in an xs:sequence whose content is a generated class.
 class ZRXML_API CElementInfoSeqClsOpt : public CElementInfo {
 public:
+    /// See CElementInfo and CClassRecordData.
     CElementInfoSeqClsOpt(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, XmlElementType childType,
         ClassFactory factory, int classId, bool createInline);
     ~CElementInfoSeqClsOpt() override;

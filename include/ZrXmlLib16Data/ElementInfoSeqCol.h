@@ -11,6 +11,7 @@ namespace ZrXmlLib16Data {
 /// Base of every collection record of its group.
 class ZRXML_API CElementInfoSeqCol : public CElementInfo {
 public:
+    /// The arguments are those of CElementInfo.
     CElementInfoSeqCol(const wchar_t* name, const wchar_t* namespaceUri, int propertyId);
     ~CElementInfoSeqCol() override;
     bool ElementToXml(const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlGeneratedClass* object,

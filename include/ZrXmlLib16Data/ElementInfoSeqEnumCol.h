@@ -10,6 +10,7 @@ namespace ZrXmlLib16Data {
 /// Record of a repeated element in an xs:sequence whose content is an enumerated value.
 class ZRXML_API CElementInfoSeqEnumCol : public CElementInfoSeqCol {
 public:
+    /// The arguments are those of CElementInfo.
     CElementInfoSeqEnumCol(const wchar_t* name, const wchar_t* namespaceUri, int propertyId);
     ~CElementInfoSeqEnumCol() override;
 };

@@ -10,6 +10,7 @@ namespace ZrXmlLib16Data {
 /// Record of a mandatory element in an xs:sequence whose content is an enumerated value.
 class ZRXML_API CElementInfoSeqEnumMnd : public CElementInfo {
 public:
+    /// The arguments are those of CElementInfo.
     CElementInfoSeqEnumMnd(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool nillable,
         EnumToString enumToString, StringToEnum stringToEnum, const wchar_t* defaultValue);
     ~CElementInfoSeqEnumMnd() override;

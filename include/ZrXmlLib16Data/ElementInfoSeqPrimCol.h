@@ -10,6 +10,7 @@ namespace ZrXmlLib16Data {
 /// Record of a repeated element in an xs:sequence whose content is a primitive value.
 class ZRXML_API CElementInfoSeqPrimCol : public CElementInfoSeqCol {
 public:
+    /// The arguments are those of CElementInfo.
     CElementInfoSeqPrimCol(const wchar_t* name, const wchar_t* namespaceUri, int propertyId);
     ~CElementInfoSeqPrimCol() override;
 };

@@ -10,6 +10,7 @@ namespace ZrXmlLib16Data {
 /// Record of a mandatory element in an xs:sequence whose content is a primitive value.
 class ZRXML_API CElementInfoSeqPrimMnd : public CElementInfo {
 public:
+    /// The arguments are those of CElementInfo.
     CElementInfoSeqPrimMnd(const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool nillable,
         ItemType itemType, const wchar_t* numberFormat, CWhitespaceUtils::WhitespaceRule rule,
         const CPrimitiveRestrictions& restrictions, const wchar_t* defaultValue);

@@ -11,6 +11,9 @@ namespace ZrXmlLib16Data {
 /// takes any name.
 class ZRXML_API CElementInfoSeqUntpdOpt : public CElementInfo {
 public:
+    /// See CElementInfo.
+    /// @param namespaceSpecification as for CAttributeInfoAny
+    /// @param targetNamespace of the schema, which "##other" and "##targetNamespace" refer to
     CElementInfoSeqUntpdOpt(const wchar_t* name, const wchar_t* namespaceUri, int propertyId,
         const wchar_t* namespaceSpecification, const wchar_t* targetNamespace);
     ~CElementInfoSeqUntpdOpt() override;

@@ -27,6 +27,8 @@ public:
         ItemType valueType, const wchar_t* valueFormat, bool storeUnparsed);
     virtual ~CParentElementInfo();
 
+    /// @{
+    /// The argument of the constructor.
     XmlElementGroupType GetGroupType() const;
     XmlElementType GetElementType() const;
     const std::wstring& GetTypeName() const;
@@ -37,6 +39,7 @@ public:
     ItemType GetValueType() const;
     const std::wstring& GetValueFormat() const;
     bool GetStoreUnparsed() const;
+    /// @}
 
 private:
     XmlElementGroupType m_groupType;

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#ifndef CORE_NILLABLEMEMORY_H
+#define CORE_NILLABLEMEMORY_H
+
+#include <cstddef>
+#include <typeinfo>
+
+namespace ZrXmlLib16 {
+
+class CXmlGeneratedClass;
+class INillable;
+
+/// Finds the INillable of an object without asking the same type twice: its place is the same in all objects of a type.
+/// Small and forgetful. Belongs to one walk at a time.
+class CNillableMemory {
+public:
+    /// Null when the object is none.
+    INillable* Find(CXmlGeneratedClass& object);
+    const INillable* Find(const CXmlGeneratedClass& object) { return Find(const_cast<CXmlGeneratedClass&>(object)); }
+
+private:
+    struct Entry {
+        const std::type_info* type;
+        std::ptrdiff_t offset;
+        bool isNillable;
+    };
+    static constexpr unsigned INDEX_BITS = 4;
+
+    Entry m_entries[std::size_t(1) << INDEX_BITS] = {};
+};
+
+} // namespace ZrXmlLib16
+
+#endif
