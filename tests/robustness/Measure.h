@@ -6,9 +6,10 @@
 
 #include <cstddef>
 #include <functional>
-#include <pthread.h>
 #include <stdexcept>
 #include <string>
+
+#include <pthread.h>
 
 namespace TestSupport {
 
@@ -35,22 +36,28 @@ inline std::string Repeated(const std::string& text, std::size_t times)
     return result;
 }
 
-/// Runs the action in a thread with a stack of that size.
-inline void RunOnStack(std::size_t stackBytes, std::function<void()> action)
+/// Runs the action in a thread with these attributes, which are destroyed.
+inline void RunInThread(pthread_attr_t& attributes, std::function<void()> action)
 {
-    pthread_attr_t attributes;
-    pthread_attr_init(&attributes);
-    pthread_attr_setstacksize(&attributes, stackBytes);
     pthread_t thread;
     const auto start = [](void* argument) -> void* {
         (*static_cast<std::function<void()>*>(argument))();
         return nullptr;
     };
-    if (pthread_create(&thread, &attributes, start, &action) == 0)
-        pthread_join(thread, nullptr);
-    else
-        throw std::runtime_error("no thread");
+    const int code = pthread_create(&thread, &attributes, start, &action);
     pthread_attr_destroy(&attributes);
+    if (code != 0)
+        throw std::runtime_error("no thread");
+    pthread_join(thread, nullptr);
+}
+
+/// Runs the action in a thread with a stack of that size.
+inline void RunOnStack(std::size_t stackBytes, const std::function<void()>& action)
+{
+    pthread_attr_t attributes;
+    pthread_attr_init(&attributes);
+    pthread_attr_setstacksize(&attributes, stackBytes);
+    RunInThread(attributes, action);
 }
 
 } // namespace TestSupport
