@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+#include "fuzz/FuzzSupport.h"
+
+#include "support/TestObject.h"
+#include "support/TestText.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+using namespace ZrXmlLib16;
+using TestSupport::Narrow;
+using TestSupport::TestClass;
+using TestSupport::TestObject;
+
+namespace Fuzz {
+
+namespace {
+
+// Paths and positions are looked for along parents and siblings, so asking every element for its path is quadratic.
+constexpr int PATHS = 64;
+
+void VisitElement(const CXmlElement& element, bool withPaths)
+{
+    for (const CXmlAttribute* attribute : element.GetAttributes()) {
+        element.GetAttribute(attribute->GetLocalName(), attribute->GetNamespaceURI());
+        attribute->IsNilAttribute();
+        if (withPaths)
+            attribute->GetXPath();
+    }
+    if (withPaths) {
+        element.GetXPath();
+        element.GetQName();
+        element.GetNameWithPredicate();
+    }
+}
+
+const CXmlElement* NextInDocument(const CXmlElement* element)
+{
+    if (element->GetFirstElement())
+        return element->GetFirstElement();
+    while (element && !element->GetNextSiblingElement())
+        element = element->GetParent();
+    return element ? element->GetNextSiblingElement() : nullptr;
+}
+
+} // namespace
+
+std::uint64_t InputReader::Bits64()
+{
+    std::uint64_t value = 0;
+    for (int i = 0; i < 8; ++i)
+        value = value << 8 | Octet();
+    return value;
+}
+
+void RequireEqual(const char* what, const std::wstring& expected, const std::wstring& actual)
+{
+    if (expected == actual)
+        return;
+    std::fprintf(stderr, "%s\nexpected: %s\nactual:   %s\n", what, Narrow(expected).c_str(), Narrow(actual).c_str());
+    std::abort();
+}
+
+void Require(bool condition, const char* what)
+{
+    if (condition)
+        return;
+    std::fprintf(stderr, "%s\n", what);
+    std::abort();
+}
+
+void RequireSuccess(const char* what, const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const CZrException& exception) {
+        std::fprintf(stderr, "%s\n%s\n", what, Narrow(exception.GetFullMessage()).c_str());
+        std::abort();
+    }
+}
+
+void LowerLimits(CSerializationContext& context)
+{
+    CInputLimits limits;
+    limits.SetMaxDocumentOctets(1UL << 20);
+    limits.SetMaxInflatedOctets(1UL << 20);
+    limits.SetMaxElements(100000);
+    limits.SetMaxExpandedCharacters(1UL << 20);
+    context.SetInputLimits(limits);
+    context.SetMaxDepth(100);
+}
+
+void IgnoreFaults(CSerializationContext& context)
+{
+    context.SetIgnoreInvalidCollectionCounts(true);
+    context.SetIgnoreMissingChoice(true);
+    context.SetIgnoreMissingMandatoryElements(true);
+    context.SetIgnoreUnknownElements(true);
+    context.SetIgnoreUnknownAttributes(true);
+    context.SetIgnoreNamespaces(true);
+}
+
+void VisitDocument(const CXmlDocument& document)
+{
+    int paths = PATHS;
+    for (const CXmlElement* element = document.GetDocumentElement(); element; element = NextInDocument(element))
+        VisitElement(*element, paths-- > 0);
+}
+
+TestClass AnyClass()
+{
+    static const TestClass any =
+        TestSupport::Class(L"any").AnyAttributes().Any(L"##any").Col().AnyAttr(L"attributes", L"##any");
+    return any;
+}
+
+void RunReadActions(const ReadActions& actions, const CSerializationContext& context)
+{
+    Tolerate([&] {
+        CXmlDocument document(context);
+        const bool loaded = Tolerate([&] { actions.intoDocument(document); });
+        VisitDocument(document);
+        if (!loaded || !document.GetDocumentElement())
+            return;
+        const CSmartPtr<CElement> tree(new CElement);
+        tree->CopyXmlElement(document.GetDocumentElement());
+        tree->Clone()->ToXmlStream(true, true, Encoding_UTF8, EOL_LF, context);
+        tree->ToFastInfosetStream(FInfoDecl_None, context);
+        tree->ToJsonStream(true, Encoding_UTF8, EOL_LF, context);
+    });
+    for (const TestClass& type : {TestSupport::SampleClass(), AnyClass()}) {
+        const CSmartPtr<TestObject> object = type.Create();
+        if (!Tolerate([&] { actions.intoObject(*object); }))
+            continue;
+        std::wstring written;
+        if (!Tolerate([&] { written = object->ToXml(true, false, EOL_LF, context); }))
+            continue;
+        const CSmartPtr<TestObject> second = type.Create();
+        Tolerate([&] {
+            second->FromXml(written.c_str(), context);
+            second->ToXml(true, false, EOL_LF, context);
+        });
+    }
+}
+
+} // namespace Fuzz
