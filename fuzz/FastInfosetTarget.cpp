@@ -10,7 +10,7 @@ namespace Fuzz {
 
 namespace {
 
-enum Setting : unsigned { Vocabulary = 1, Utf16 = 2, Lenient = 4, Suggested = 8 };
+enum Setting : unsigned { Vocabulary = 1, Utf16 = 2, Lenient = 4, Suggested = 8, Incomplete = 16 };
 
 void FillVocabulary(CFastInfosetContext& settings)
 {
@@ -39,8 +39,8 @@ int RunFastInfosetInput(const std::uint8_t* data, std::size_t size)
         fastInfoset.SetDefaultStringEncoding(CFastInfosetContext::Utf16BE);
     if (settings & Suggested)
         fastInfoset.SetSuggestedValues();
-    if (settings & Lenient)
-        IgnoreFaults(context);
+    if (settings & (Lenient | Incomplete))
+        IgnoreFaults(context, (settings & Lenient) != 0);
     ReadActions actions;
     actions.intoDocument = [&](CXmlDocument& document) { document.LoadXmlStream(input.Rest(), input.RestSize()); };
     actions.intoObject = [&](CXmlObjectBase& object) { object.FromXmlStream(input.Rest(), input.RestSize(), context); };

@@ -4,6 +4,8 @@
 #include "support/TestObject.h"
 #include "support/TestText.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
 
@@ -53,11 +55,17 @@ std::uint64_t InputReader::Bits64()
     return value;
 }
 
-void RequireEqual(const char* what, const std::wstring& expected, const std::wstring& actual)
+void RequireEqual(const std::string& what, const std::wstring& expected, const std::wstring& actual)
 {
     if (expected == actual)
         return;
-    std::fprintf(stderr, "%s\nexpected: %s\nactual:   %s\n", what, Narrow(expected).c_str(), Narrow(actual).c_str());
+    // From a little before the first difference.
+    const auto end = expected.begin() + static_cast<std::ptrdiff_t>(std::min(expected.size(), actual.size()));
+    const auto same =
+        static_cast<std::size_t>(std::mismatch(expected.begin(), end, actual.begin()).first - expected.begin());
+    const std::size_t begin = same < 40 ? 0 : same - 40;
+    std::fprintf(stderr, "%s\nexpected: %s\nactual:   %s\n", what.c_str(), Narrow(expected.substr(begin)).c_str(),
+        Narrow(actual.substr(begin)).c_str());
     std::abort();
 }
 
@@ -69,12 +77,12 @@ void Require(bool condition, const char* what)
     std::abort();
 }
 
-void RequireSuccess(const char* what, const std::function<void()>& action)
+void RequireSuccess(const std::string& what, const std::function<void()>& action)
 {
     try {
         action();
     } catch (const CZrException& exception) {
-        std::fprintf(stderr, "%s\n%s\n", what, Narrow(exception.GetFullMessage()).c_str());
+        std::fprintf(stderr, "%s\n%s\n", what.c_str(), Narrow(exception.GetFullMessage()).c_str());
         std::abort();
     }
 }
@@ -90,12 +98,14 @@ void LowerLimits(CSerializationContext& context)
     context.SetMaxDepth(100);
 }
 
-void IgnoreFaults(CSerializationContext& context)
+void IgnoreFaults(CSerializationContext& context, bool unknownElements)
 {
     context.SetIgnoreInvalidCollectionCounts(true);
     context.SetIgnoreMissingChoice(true);
-    context.SetIgnoreMissingMandatoryElements(true);
-    context.SetIgnoreUnknownElements(true);
+    if (unknownElements)
+        context.SetIgnoreUnknownElements(true);
+    else
+        context.SetIgnoreMissingMandatoryElements(true);
     context.SetIgnoreUnknownAttributes(true);
     context.SetIgnoreNamespaces(true);
 }

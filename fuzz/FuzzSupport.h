@@ -60,15 +60,15 @@ template <class Action> bool Tolerate(Action action)
 }
 
 /// Ends the process, with the two texts, when they differ.
-void RequireEqual(const char* what, const std::wstring& expected, const std::wstring& actual);
+void RequireEqual(const std::string& what, const std::wstring& expected, const std::wstring& actual);
 void Require(bool condition, const char* what);
 /// Runs the action; an exception of the library ends the process, with the message.
-void RequireSuccess(const char* what, const std::function<void()>& action);
+void RequireSuccess(const std::string& what, const std::function<void()>& action);
 
 /// Limits that keep every input fast.
 void LowerLimits(ZrXmlLib16::CSerializationContext& context);
-/// Tolerates what is missing, too much, unknown, or in another namespace.
-void IgnoreFaults(ZrXmlLib16::CSerializationContext& context);
+/// Tolerates wrong counts, unknown attributes, other namespaces, and either unknown elements or missing ones.
+void IgnoreFaults(ZrXmlLib16::CSerializationContext& context, bool unknownElements);
 
 /// Asks a document for everything, without recursion.
 void VisitDocument(const ZrXmlLib16::CXmlDocument& document);

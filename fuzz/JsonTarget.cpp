@@ -10,7 +10,15 @@ namespace Fuzz {
 
 namespace {
 
-enum Setting : unsigned { ModeBits = 3, Comments = 4, RootName = 8, Lenient = 16, AsOctets = 32, AsWideText = 64 };
+enum Setting : unsigned {
+    ModeBits = 3,
+    Comments = 4,
+    RootName = 8,
+    Lenient = 16,
+    AsOctets = 32,
+    AsWideText = 64,
+    Incomplete = 128
+};
 
 /// Asks for the path at every name, as error reports do.
 class PathHandler : public CJsonReaderDefaultHandler {
@@ -38,8 +46,8 @@ int RunJsonInput(const std::uint8_t* data, std::size_t size)
     json.SetSupportRoundtrip(static_cast<JsonRoundTrip>((settings & ModeBits) % 3));
     json.GetAllowComments((settings & Comments) != 0);
     json.SetRootElementName(settings & RootName ? L"sample" : L"");
-    if (settings & Lenient)
-        IgnoreFaults(context);
+    if (settings & (Lenient | Incomplete))
+        IgnoreFaults(context, (settings & Lenient) != 0);
     const std::string narrow(reinterpret_cast<const char*>(input.Rest()), input.RestSize());
     const std::wstring wide = CEncoder::Utf8ToUnicode(narrow);
     ReadActions actions;

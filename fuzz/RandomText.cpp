@@ -100,11 +100,12 @@ std::wstring RandomDateText(ItemType type, InputReader& input)
     }
 }
 
+// Of some length: the text of the others cannot be read.
 std::wstring RandomDuration(InputReader& input)
 {
     std::wstring text = input.Flag() ? L"-P" : L"P";
     for (const wchar_t unit : {L'Y', L'M', L'D'})
-        text += std::to_wstring(input.Below(100)) + unit;
+        text += std::to_wstring(1 + input.Below(100)) + unit;
     text += L'T';
     for (const wchar_t unit : {L'H', L'M', L'S'})
         text += std::to_wstring(input.Below(100)) + unit;

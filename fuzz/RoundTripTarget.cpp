@@ -51,7 +51,7 @@ void DrawFastInfoset(CFastInfosetContext& fastInfoset, InputReader& input)
         fastInfoset.SetElementMaxAddLength(input.Octet());
 }
 
-void DrawSettings(Settings& settings, InputReader& input)
+void DrawSettings(Settings& settings, bool hasNamespaces, InputReader& input)
 {
     settings.format = static_cast<Format>(input.Below(3));
     const unsigned bits = input.Octet();
@@ -59,7 +59,7 @@ void DrawSettings(Settings& settings, InputReader& input)
     settings.formatted = (bits & 2U) != 0;
     settings.lineEnd = bits & 4U ? EOL_CRLF : EOL_LF;
     settings.compression = bits & 8U ? (bits & 16U ? Compression_GZip : Compression_ZLib) : Compression_None;
-    settings.context.SetWriteTypeAttribute((bits & 32U) != 0);
+    settings.context.SetWriteTypeAttribute(true);
     settings.context.SetWriteDefaultElementValues((bits & 64U) != 0);
     settings.context.SetNoOptionalAttributeDefaultOutput((bits & 128U) != 0);
     settings.declaration = static_cast<FInfoDecl>(input.Below(10));
@@ -70,12 +70,13 @@ void DrawSettings(Settings& settings, InputReader& input)
         settings.context.GetNamespaceAliases().Add(L"q", L"urn:b");
         settings.context.GetNamespaceAliases().Add(L"o", L"urn:other");
     }
-    if (more & 2U)
+    // It is not undeclared for elements without a namespace.
+    if ((more & 2U) && hasNamespaces)
         settings.context.SetDefaultNamespaceURI(more & 4U ? L"urn:a" : L"urn:b");
     if (more & 8U)
         settings.context.SetIndentChars(L"\t");
     if (more & 16U)
-        settings.context.GetProcessingInstructions().push_back(L"target data");
+        settings.context.GetProcessingInstructions().push_back(L"<?target data?>");
     DrawFastInfoset(settings.context.GetFIContext(), input);
 }
 
@@ -91,6 +92,14 @@ CBinaryData Write(const TestObject& object, const Settings& settings)
         return object.ToXmlStream(settings.header, settings.formatted, Encoding_UTF8, settings.lineEnd,
             settings.context, settings.compression);
     }
+}
+
+std::string PlainText(const CBinaryData& octets)
+{
+    CBinaryData plain;
+    if (!CZrZip::DecompressData(octets.GetData(), octets.GetLength(), 1UL << 24, plain))
+        plain = octets;
+    return std::string(reinterpret_cast<const char*>(plain.GetData()), plain.GetLength());
 }
 
 void Read(TestObject& object, const CBinaryData& octets, const Settings& settings)
@@ -109,7 +118,7 @@ int RunRoundTripInput(const std::uint8_t* data, std::size_t size)
     const unsigned number = input.Octet();
     const TestClass type = number % 8 == 0 ? TestSupport::SampleClass() : RandomClass(number);
     Settings settings;
-    DrawSettings(settings, input);
+    DrawSettings(settings, number % 2 == 1, input);
     Restrictions restrictions;
     restrictions.nil = restrictions.unwritableInJson = settings.format == Format::Json;
     const CSmartPtr<TestObject> object = type.Create();
@@ -119,8 +128,9 @@ int RunRoundTripInput(const std::uint8_t* data, std::size_t size)
     if (!Tolerate([&] { octets = Write(*object, settings); }))
         return 0;
     const CSmartPtr<TestObject> copy = type.Create();
-    RequireSuccess("what is written can be read", [&] { Read(*copy, octets, settings); });
-    RequireEqual("what is written reads back", DescribeObject(*object), DescribeObject(*copy));
+    const std::string document = PlainText(octets);
+    RequireSuccess("what is written can be read:\n" + document, [&] { Read(*copy, octets, settings); });
+    RequireEqual("what is written reads back:\n" + document, DescribeObject(*object), DescribeObject(*copy));
     return 0;
 }
 

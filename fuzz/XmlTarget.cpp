@@ -10,7 +10,7 @@ namespace Fuzz {
 
 namespace {
 
-enum Setting : unsigned { Strip = 1, Dtd = 2, Lenient = 4, AsOctets = 8, AsWideText = 16 };
+enum Setting : unsigned { Strip = 1, Dtd = 2, Lenient = 4, AsOctets = 8, AsWideText = 16, Incomplete = 32 };
 
 } // namespace
 
@@ -23,8 +23,8 @@ int RunXmlInput(const std::uint8_t* data, std::size_t size)
     context.SetStripCDATA((settings & Strip) != 0);
     if (settings & Dtd)
         context.SetSchemaType(SchemaType_DTD);
-    if (settings & Lenient)
-        IgnoreFaults(context);
+    if (settings & (Lenient | Incomplete))
+        IgnoreFaults(context, (settings & Lenient) != 0);
     const std::string narrow(reinterpret_cast<const char*>(input.Rest()), input.RestSize());
     const std::wstring wide = CEncoder::Utf8ToUnicode(narrow);
     ReadActions actions;
