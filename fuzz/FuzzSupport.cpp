@@ -45,6 +45,27 @@ const CXmlElement* NextInDocument(const CXmlElement* element)
     return element ? element->GetNextSiblingElement() : nullptr;
 }
 
+// What is written, read and written again stays the same from the second text on: the first one may hold what reading
+// normalises. A value that begins as a CDATA section is written as markup, so the next reader sees something else.
+void CheckGenerations(const TestObject& object, const TestClass& type, const CSerializationContext& context)
+{
+    std::wstring texts[3];
+    CSmartPtr<TestObject> next;
+    const TestObject* current = &object;
+    for (std::wstring& text : texts) {
+        const bool passed = Tolerate([&] {
+            text = current->ToXml(true, false, EOL_LF, context);
+            const CSmartPtr<TestObject> copy = type.Create();
+            copy->FromXml(text.c_str(), context);
+            next = copy;
+        });
+        if (!passed || text.find(L"<![CDATA[") != std::wstring::npos)
+            return;
+        current = next;
+    }
+    RequireEqual("an object is written as it was read", texts[1], texts[2]);
+}
+
 } // namespace
 
 std::uint64_t InputReader::Bits64()
@@ -140,16 +161,8 @@ void RunReadActions(const ReadActions& actions, const CSerializationContext& con
     });
     for (const TestClass& type : {TestSupport::SampleClass(), AnyClass()}) {
         const CSmartPtr<TestObject> object = type.Create();
-        if (!Tolerate([&] { actions.intoObject(*object); }))
-            continue;
-        std::wstring written;
-        if (!Tolerate([&] { written = object->ToXml(true, false, EOL_LF, context); }))
-            continue;
-        const CSmartPtr<TestObject> second = type.Create();
-        Tolerate([&] {
-            second->FromXml(written.c_str(), context);
-            second->ToXml(true, false, EOL_LF, context);
-        });
+        if (Tolerate([&] { actions.intoObject(*object); }))
+            CheckGenerations(*object, type, context);
     }
 }
 

@@ -76,8 +76,7 @@ void VisitDocument(const ZrXmlLib16::CXmlDocument& document);
 /// A class that takes any document with any content: every attribute and every child is kept.
 TestSupport::TestClass AnyClass();
 
-/// Reads an input into a document tree, then into objects. An object that could be read and can be written must read
-/// back as itself.
+/// Reads an input into a document tree, then into objects, and writes what was read.
 struct ReadActions {
     std::function<void(ZrXmlLib16::CXmlDocument& document)> intoDocument;
     std::function<void(ZrXmlLib16::CXmlObjectBase& object)> intoObject;

@@ -3,6 +3,7 @@
 
 #include "ZrXmlLib16/ZrXmlLib16.h"
 
+#include <algorithm>
 #include <map>
 #include <random>
 
@@ -134,7 +135,8 @@ private:
     {
         if (spec.kind == RecordKind::AnyAttr) {
             if (isNeeded || m_input.Flag())
-                object.Attributes(spec.name.c_str())->Add(L"urn:other", Text(ItemType_string).c_str(), L"extra");
+                object.Attributes(spec.name.c_str())
+                    ->Add(L"urn:other", AttributeText(ItemType_string).c_str(), L"extra");
         } else if (spec.occurs == Occurs::Collection) {
             for (unsigned n = m_input.Below(4) + (isNeeded ? 1 : 0); n > 0; --n)
                 AddChild(object, spec);
@@ -145,6 +147,10 @@ private:
         } else if (spec.kind == RecordKind::Enum || spec.kind == RecordKind::EnumAttr) {
             object[spec.name.c_str()].SetI4(static_cast<long>(m_input.Below(3)));
         } else {
+            if (spec.kind == RecordKind::Attr) {
+                object.Set(spec.name.c_str(), AttributeText(spec.itemType).c_str());
+                return;
+            }
             // An empty element means its default value.
             const std::wstring text = Text(spec.itemType);
             object.Set(spec.name.c_str(), text.empty() ? spec.defaultValue.c_str() : text.c_str());
@@ -164,6 +170,14 @@ private:
     }
 
     std::wstring Text(ItemType type) { return RandomText(type, m_input, m_restrictions); }
+
+    // A tab is written as it is, and parsers read a space for it.
+    std::wstring AttributeText(ItemType type)
+    {
+        std::wstring text = Text(type);
+        std::replace(text.begin(), text.end(), L'\t', L' ');
+        return text;
+    }
 
     InputReader& m_input;
     const Restrictions& m_restrictions;
