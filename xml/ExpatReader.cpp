@@ -27,6 +27,8 @@ namespace {
 static_assert(sizeof(XML_Char) == 2 && std::is_same_v<XML_Char, Utf16Unit>);
 
 constexpr XML_Char NAMESPACE_SEPARATOR = L'|';
+// The parser copies what it is given, so it is given a part at a time.
+constexpr unsigned long SMALLEST_SLICE = 1ul << 20;
 constexpr unsigned long LARGEST_SLICE = 1ul << 30;
 constexpr unsigned long LARGEST_EXPANSION = 1ul << 60;
 // What the parser needs whatever the document, several times.
@@ -88,16 +90,22 @@ void CExpatReader::Parse(bool isFinal)
 {
     const char* input = reinterpret_cast<const char*>(m_document.GetInputBuffer());
     unsigned long rest = m_document.GetInputSize();
+    unsigned long largest = SMALLEST_SLICE;
+    XML_Index reached = 0;
     bool isLast = false;
     const ParserMemory::Scope scope(m_memory);
     while (!isLast) {
-        const unsigned long slice = std::min(rest, LARGEST_SLICE);
+        const unsigned long slice = std::min(rest, largest);
         rest -= slice;
         isLast = rest == 0;
         if (XML_Parse(m_parser.get(), input, static_cast<int>(slice), isLast && isFinal) != XML_STATUS_OK) {
             ThrowFailure();
         }
         input += slice;
+        // A token that fills slices is scanned from its beginning with every one.
+        const XML_Index now = XML_GetCurrentByteIndex(m_parser.get());
+        largest = now > reached ? SMALLEST_SLICE : std::min(2 * largest, LARGEST_SLICE);
+        reached = now;
     }
     if (isFinal) {
         Cleanup();
