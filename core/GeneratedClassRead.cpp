@@ -52,7 +52,7 @@ CXmlElement* CXmlGeneratedClass::FromXml_Int(
         if (depth.IsTooDeep(context)) {
             throw CZrException(Message::NESTING_TOO_DEEP, element->GetXPath());
         }
-        if (ElementName() != element->GetLocalName()) {
+        if (!HasElementName(element->GetLocalName())) {
             SetElementName(element->GetLocalName().c_str());
         }
         return ReadContent(element, firstChild, context, isOptional);

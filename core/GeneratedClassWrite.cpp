@@ -65,7 +65,7 @@ void CXmlGeneratedClass::ToXml_Int(CXmlWriter* writer, bool isRoot, const wchar_
         writer->WriteEndElement();
     } catch (const CZrException& exception) {
         throw CZrValidationException(
-            FormatString(Message::ELEMENT_TO_XML_FAILED, ElementName().c_str()), std::wstring(), exception);
+            FormatString(Message::ELEMENT_TO_XML_FAILED, GetElementName().c_str()), std::wstring(), exception);
     }
 }
 
@@ -77,7 +77,9 @@ void CXmlGeneratedClass::WriteStartTag(CXmlWriter* writer, bool isRoot, const wc
     }
     std::wstring& uri = ZrXmlLib16Data::CRecordAccess::Scratch(*writer);
     uri = namespaceUri;
-    writer->WriteStartElement(ElementName(), uri);
+    std::wstring& name = ZrXmlLib16Data::CRecordAccess::NameScratch(*writer);
+    m_elementName.CopyTo(name);
+    writer->WriteStartElement(name, uri);
     if (isRoot) {
         if (const CAttributeCol* attributes = context.FindAdditionalRootAttributes()) {
             CXmlObjectBase::ToXml_Int(attributes, writer, false, namespaceUri, context, isOptional);
@@ -188,7 +190,7 @@ void CXmlGeneratedClass::AttributesToXml_Int(CXmlWriter* writer, const CSerializ
 {
     try {
         const CParentElementInfo& info = *GetClassInfo();
-        if (context.GetWriteTypeAttribute() && info.GetAllowTypeAttribute() && info.GetTypeName() != ElementName()) {
+        if (context.GetWriteTypeAttribute() && info.GetAllowTypeAttribute() && !HasElementName(info.GetTypeName())) {
             writer->WriteAttributeType(info.GetTypeName(), info.GetTypeNamespace(), ItemType_string);
         }
         ProcessAttributesToXml(context, GetClassElementInfo(), GetClassAttributeInfo(), writer);

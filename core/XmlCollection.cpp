@@ -5,6 +5,7 @@
 #include "ZrXmlLib16/ZrInvalidStateException.h"
 #include "core/CollectionIndex.h"
 #include "core/CoreMessages.h"
+#include "core/ItemPrefetch.h"
 
 #include <memory>
 #include <utility>
@@ -46,10 +47,15 @@ CXmlCollection::CXmlCollection(const wchar_t* elementName, const wchar_t* namesp
 
 CXmlCollection::~CXmlCollection()
 {
-    for (CNode* node = m_first; node;) {
-        CNode* next = node->m_next;
+    DeleteNodes(m_first);
+}
+
+void CXmlCollection::DeleteNodes(CNode* first) noexcept
+{
+    while (first) {
+        CNode* const node = std::exchange(first, first->m_next);
+        PrefetchItem(first);
         delete node;
-        node = next;
     }
 }
 
@@ -235,11 +241,7 @@ void CXmlCollection::Clear()
     m_cachedNode = nullptr;
     FireOnCollectionRemoveComplete(-1);
     FireOnCollectionChange();
-    while (node) {
-        CNode* next = node->m_next;
-        delete node;
-        node = next;
-    }
+    DeleteNodes(node);
 }
 
 } // namespace ZrXmlLib16

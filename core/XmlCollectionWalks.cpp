@@ -38,7 +38,8 @@ CXmlElement* CXmlCollection::FromXml_Int(
 
 CXmlElement* CXmlCollection::ReadElements(CXmlElement* cursor, const CSerializationContext& context)
 {
-    while (cursor && DoesElementNameMatch(context, cursor, ElementName(), Namespace())) {
+    while (cursor && HasElementName(cursor->GetLocalName())
+        && DoesElementNameMatch(context, cursor, cursor->GetLocalName(), Namespace())) {
         CSmartPtr<CXmlObjectBase> item = RequireItem(cursor);
         CXmlObjectBase::FromXml_Int(item, cursor, cursor->GetFirstElement(), context);
         Insert(std::move(item), nullptr);

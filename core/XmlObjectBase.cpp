@@ -53,17 +53,19 @@ long CXmlObjectBase::Release()
 
 void CXmlObjectBase::SetElementName(const wchar_t* name)
 {
-    m_elementName = TextOrEmpty(name);
+    m_elementName.Set(name);
 }
 
 std::wstring CXmlObjectBase::GetElementName() const
 {
-    return m_elementName;
+    std::wstring name;
+    m_elementName.CopyTo(name);
+    return name;
 }
 
 const std::wstring& CXmlObjectBase::ElementName() const
 {
-    return m_elementName;
+    return m_elementName.Get();
 }
 
 void CXmlObjectBase::Throw_IfPropertyIsNull(CXmlObjectBase* value, const wchar_t* propertyName)
@@ -75,9 +77,9 @@ void CXmlObjectBase::Throw_IfPropertyIsNull(CXmlObjectBase* value, const wchar_t
 
 void CXmlObjectBase::Throw_IfElementNameDiffers(CXmlObjectBase* value, const wchar_t* requiredName)
 {
-    if (value && value->m_elementName != TextOrEmpty(requiredName)) {
+    if (value && !value->m_elementName.Is(TextOrEmpty(requiredName))) {
         throw CZrInvalidParamException(
-            FormatString(Message::ELEMENT_NAME_DIFFERS, TextOrEmpty(requiredName), value->m_elementName.c_str()));
+            FormatString(Message::ELEMENT_NAME_DIFFERS, TextOrEmpty(requiredName), value->GetElementName().c_str()));
     }
 }
 

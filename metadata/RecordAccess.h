@@ -95,6 +95,7 @@ public:
 
     /// A text that records may use between two calls of the writer; keeps its capacity from one value to the next.
     static std::wstring& Scratch(ZrXmlLib16::CXmlWriter& writer) { return writer.m_scratch; }
+    static std::wstring& NameScratch(ZrXmlLib16::CXmlWriter& writer) { return writer.m_nameScratch; }
     static ZrXmlLib16::CNillableMemory& Nillables(ZrXmlLib16::CXmlWriter& writer) { return *writer.m_nillables; }
 };
 

@@ -2,6 +2,8 @@
 #ifndef ZRXMLLIB16_NODETEXT_H
 #define ZRXMLLIB16_NODETEXT_H
 
+#include "ZrXmlLib16/Export.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -26,7 +28,7 @@ struct NodeForms {
 /// wide form in a NodeForms of its own.
 ///
 /// The owner passes its document's storage with every operation, null when it was built by hand.
-class NodeText {
+class ZRXML_API NodeText {
 public:
     /// Empty.
     NodeText() noexcept

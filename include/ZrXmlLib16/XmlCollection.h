@@ -87,6 +87,7 @@ protected:
 private:
     CNode* Insert(CSmartPtr<CXmlObjectBase> item, CNode* before);
     void RemoveAt(CNode* node, int index);
+    static void DeleteNodes(CNode* first) noexcept;
     void RequireUnchanged(unsigned long changes) const;
     CNode* RequireNode(const CXmlObjectBase* item) const;
     CXmlElement* ReadElements(CXmlElement* cursor, const CSerializationContext& context);

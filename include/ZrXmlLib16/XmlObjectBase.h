@@ -8,6 +8,7 @@
 #include "ZrXmlLib16/Export.h"
 #include "ZrXmlLib16/FInfoDecl.h"
 #include "ZrXmlLib16/IEventSink.h"
+#include "ZrXmlLib16/NameText.h"
 #include "ZrXmlLib16/SerializationContext.h"
 #include "ZrXmlLib16/XmlEncoding.h"
 #include "ZrXmlLib16/ZRCriticalSection.h"
@@ -189,13 +190,16 @@ protected:
     /// Copies the element name only; the copy counts no references.
     CXmlObjectBase(const CXmlObjectBase& other);
     CXmlObjectBase& operator=(const CXmlObjectBase& other);
-    /// The element name, borrowed.
+    /// The element name, borrowed. The first call may make it.
     const std::wstring& ElementName() const;
+    bool HasElementName(const std::wstring& name) const { return m_elementName.Is(name); }
 
     friend class ZrXmlLib16Data::CAttributeInfo;
     friend class ZrXmlLib16Data::CElementInfo;
 
 private:
+    friend class CXmlGeneratedClass;
+
     void WriteDocument(CTextStream& stream, bool includeHeader, bool formatted, EOLType eol,
         const CSerializationContext& context) const;
     void WriteJson(
@@ -203,7 +207,7 @@ private:
     void ReadConverted(CBinaryData bytes, const CSerializationContext& context);
     void ReadElement(const CXmlElement* element, const CSerializationContext& context);
 
-    std::wstring m_elementName;
+    mutable NameText m_elementName;
     CZRCriticalSection m_lock;
     long m_referenceCount;
 };

@@ -168,7 +168,8 @@ private:
     NamespaceMap m_namespaceMap;
     std::vector<std::unique_ptr<CXmlWriterContext>> m_contexts; // by nesting; closed ones are kept for reuse
     std::size_t m_openContexts;
-    std::wstring m_scratch; // for the values that records format
+    std::wstring m_scratch;     // for the values that records format
+    std::wstring m_nameScratch; // for the names of objects
     std::unique_ptr<CNillableMemory> m_nillables;
 };
 

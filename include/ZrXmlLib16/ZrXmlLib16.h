@@ -44,6 +44,7 @@
 #include "ZrXmlLib16/JsonRoundTrip.h"
 #include "ZrXmlLib16/JsonTextReader.h"
 #include "ZrXmlLib16/JsonTextWriter.h"
+#include "ZrXmlLib16/NameText.h"
 #include "ZrXmlLib16/NamespaceAliasMap.h"
 #include "ZrXmlLib16/NodeText.h"
 #include "ZrXmlLib16/PrimitiveRestrictions.h"

@@ -48,6 +48,27 @@ TEST(ObjectBase, LastOwnerDestroys)
     EXPECT_EQ(1, destroyed);
 }
 
+TEST(ObjectBase, NamesOfAnyLengthAreKeptAndCopied)
+{
+    const std::wstring names[] = {
+        L"", L"a", L"exactly16letters", L"seventeen letters", L"\xFFFF", L"\x1F600", std::wstring(300, L'n')};
+    for (const std::wstring& before : names) {
+        for (const std::wstring& after : names) {
+            TestObject object(Class(before.c_str()));
+            object.SetElementName(before.c_str());
+            TestObject copy(object);
+            copy.SetElementName(after.c_str());
+            EXPECT_EQ(before, object.GetElementName());
+            EXPECT_EQ(after, copy.GetElementName());
+            const auto compare = [&] { CXmlObjectBase::Throw_IfElementNameDiffers(&object, after.c_str()); };
+            if (before == after)
+                EXPECT_NO_THROW(compare());
+            else
+                EXPECT_THROW(compare(), CZrInvalidParamException);
+        }
+    }
+}
+
 TEST(ObjectBase, OwnersOnSeveralThreadsShareAnObject)
 {
     CSmartPtr<Counted> object(new Counted);

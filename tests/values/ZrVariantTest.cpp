@@ -3,6 +3,7 @@
 #include "ZrXmlLib16/XmlCollectionBase.h"
 #include "ZrXmlLib16/ZrInvalidValueException.h"
 #include "support/TestText.h"
+#include "values/BorrowingVariant.h"
 
 #include <gtest/gtest.h>
 
@@ -112,6 +113,33 @@ TEST(ZrVariant, ASetterReplacesWhatWasThere)
     EXPECT_EQ(value.GetString(), L"text that is too long for a sm");
     value.SetDate(CDateTime(2004, 2, 29));
     EXPECT_TRUE(value.GetDate() == CDateTime(2004, 2, 29) && value.GetString().empty());
+}
+
+TEST(ZrVariant, LentStringsAreReadCopiedMovedAndTakenLikeOwnOnes)
+{
+    const std::wstring lent = L"a text that is too long for a small string";
+    CBorrowingVariant borrowing;
+    ZrVariant copying;
+    for (ZrVariant* value : {static_cast<ZrVariant*>(&borrowing), &copying}) {
+        value->SetI4(1);
+        value->LendString(lent);
+        EXPECT_EQ(value == &borrowing, &value->GetString() == &lent);
+        EXPECT_EQ(lent, value->ToString(L""));
+        ZrVariant copy(*value);
+        EXPECT_NE(&lent, &copy.GetString());
+        EXPECT_EQ(lent, copy.TakeString());
+        const ZrVariant moved(std::move(*value));
+        EXPECT_EQ(lent, moved.GetString());
+        EXPECT_FALSE(value->IsValid());
+        value->LendString(lent);
+        value->SetString(L"own", 3);
+        EXPECT_EQ(L"own", value->TakeString());
+        value->LendString(lent);
+        EXPECT_EQ(lent, value->TakeString());
+        value->SetNil();
+        EXPECT_EQ(L"", value->TakeString());
+    }
+    EXPECT_EQ(42u, lent.size());
 }
 
 TEST(ZrVariant, NilKeepsTheTypeAndHasNoValue)

@@ -148,6 +148,48 @@ TEST(Element, RemovedElementsOutliveTheirDocument)
     EXPECT_EQ(L"kept @n=1 (child 'text')", TreeText(removed.get()));
 }
 
+// What callers hold by reference follows later changes, whichever form the text had before.
+TEST(Element, ReferencesFollowLaterChanges)
+{
+    for (const bool early : {false, true}) {
+        CXmlDocument document;
+        document.LoadXml("<r a='1'>x&#13;<i/>y<i/>z</r>");
+        CXmlElement* const root = document.GetDocumentElement();
+        if (early) {
+            EXPECT_EQ(L"xyz", root->GetText());
+            EXPECT_EQ(1u, root->GetAttributes().size());
+        }
+        root->AppendText(L"-\r", 2);
+        const std::wstring& text = root->GetText();
+        const std::vector<CXmlAttribute*>& attributes = root->GetAttributes();
+        root->AppendText(L"\x1F600");
+        root->AddAttribute(L"b", L"\x1F600", L"");
+        root->AddAttribute(L"c", L"", L"urn:c");
+        EXPECT_EQ(L"xyz-\r\x1F600", text);
+        ASSERT_EQ(3u, attributes.size());
+        EXPECT_EQ(L"\x1F600", attributes[1]->GetValue());
+        EXPECT_EQ(attributes[0]->GetValue(), root->GetAttribute(L"a", L""));
+        EXPECT_EQ(L"r @a=1 @b=\x1F600 @{urn:c}c= 'xyz-\r\x1F600' (i, i)", TreeText(root));
+    }
+}
+
+TEST(Element, TextOfManyPiecesIsComplete)
+{
+    std::string xml = "<r>";
+    std::wstring expected;
+    for (int piece = 0; piece < 3000; ++piece) {
+        xml += "p" + std::to_string(piece) + "\n<i>" + std::string(static_cast<std::size_t>(piece) % 50, 'c') + "</i>";
+        expected += L"p" + std::to_wstring(piece) + L"\n";
+    }
+    const std::string tail(100000, 't');
+    CXmlDocument document;
+    document.LoadXml((xml + tail + "</r>").c_str());
+    EXPECT_EQ(expected + std::wstring(tail.begin(), tail.end()), document.GetDocumentElement()->GetText());
+    std::unique_ptr<CXmlElement> last(document.GetDocumentElement()->RemoveLastChildElement());
+    last->AppendText(L"+", 1); // no longer in the arena
+    EXPECT_EQ(std::wstring(49, L'c') + L"+", last->GetText());
+}
+
 TEST(Callback, RemovesElementsButNeverTheRoot)
 {
     CXmlDocument all([](CXmlElement*) { return true; });

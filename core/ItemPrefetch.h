@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#ifndef CORE_ITEMPREFETCH_H
+#define CORE_ITEMPREFETCH_H
+
+#include "ZrXmlLib16/XmlCollection.h"
+
+namespace ZrXmlLib16 {
+
+/// Has the item of a node (may be null) loaded into the cache while something else is done.
+inline void PrefetchItem(const CXmlCollection::CNode* node)
+{
+    constexpr int LINE = 64;
+    constexpr int LINES = 4; // of most objects
+    if (node) {
+        const char* const item = reinterpret_cast<const char*>(node->GetItem());
+        for (int line = 0; line < LINES; ++line) {
+            __builtin_prefetch(item + line * LINE);
+        }
+    }
+}
+
+} // namespace ZrXmlLib16
+
+#endif
