@@ -22,8 +22,8 @@ public:
     /// Elements of a document. Default 268,435,456.
     unsigned long GetMaxElements() const;
     void SetMaxElements(unsigned long elements);
-    /// Characters that a document may always expand to where its format repeats them by reference (values of Fast
-    /// Infoset, names of JSON array items); beyond, it may expand to 100 times its own size. Default 67,108,864.
+    /// Characters that a document may always expand to where its format repeats them (indexes of Fast Infoset, prefixes
+    /// of XML, names of JSON array items); beyond, it may expand to 100 times its own size. Default 67,108,864.
     unsigned long GetMaxExpandedCharacters() const;
     void SetMaxExpandedCharacters(unsigned long characters);
 

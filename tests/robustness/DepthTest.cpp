@@ -18,7 +18,7 @@ constexpr std::size_t SMALL_STACK = 512U << 10;
 constexpr std::size_t USUAL_STACK = 8U << 20;
 constexpr std::size_t DEPTHS[] = {100000, 1000000};
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__) || !defined(NDEBUG)
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr bool HAS_RELEASE_FRAMES = false;
 #else
 constexpr bool HAS_RELEASE_FRAMES = true;
