@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The entry points of JSON and Fast Infoset, and one object through every format.
+#include "ZrXmlLib16/Encoder.h"
 #include "ZrXmlLib16/FIVocabulary.h"
 #include "ZrXmlLib16/FastInfosetContext.h"
 #include "ZrXmlLib16/JsonContext.h"
@@ -146,6 +147,19 @@ TEST_F(Format, FailuresOfJsonReading)
         EXPECT_EQ(row.first, FailureOf(row.second));
 }
 
+// Octets are made piece by piece, text is not.
+TEST_F(Format, OctetsAreThoseOfTheText)
+{
+    for (std::size_t length = 4000; length < 4200; ++length) {
+        m_order.Set(L"note",
+            (std::wstring(length, L'a') + L"\xD83D\xDE00\u00e4\xD83D" + std::wstring(5000, L'\u20ac')).c_str());
+        ASSERT_TRUE(m_order.ToXmlStream(false, true, Encoding_UTF8, EOL_LF, m_context)
+            == CEncoder::UnicodeToUtf8Binary(m_order.ToXml(false, true, EOL_LF, m_context)));
+        ASSERT_TRUE(m_order.ToJsonStream(true, Encoding_UTF8, EOL_LF, m_context)
+            == CEncoder::UnicodeToUtf8Binary(m_order.ToJson(true, EOL_LF, m_context)));
+    }
+}
+
 TEST_F(Format, EveryFastInfosetFormReadsBack)
 {
     for (int declaration = FInfoDecl_None; declaration <= FInfoDecl_11EncNo; ++declaration) {
@@ -184,9 +198,7 @@ TEST_F(Format, AsynchronousJsonFilesAreWrittenDirectly)
     m_order.ToJsonFile(m_file.c_str(), true, Encoding_UTF8, EOL_LF, m_context);
     EXPECT_EQ(buffered, Content());
     m_order.Add(L"item");
-    EXPECT_NE("", FailureOf([&] {
-        m_order.ToJsonFile(m_file.c_str(), true, Encoding_UTF8, EOL_LF, m_context);
-    }));
+    EXPECT_NE("", FailureOf([&] { m_order.ToJsonFile(m_file.c_str(), true, Encoding_UTF8, EOL_LF, m_context); }));
     EXPECT_GT(buffered.length(), Content().length());
 }
 

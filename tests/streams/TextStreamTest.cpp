@@ -2,7 +2,6 @@
 #include "ZrXmlLib16/TextStream.h"
 #include "ZrXmlLib16/Encoder.h"
 #include "ZrXmlLib16/ZrException.h"
-#include "streams/Utf8TextStream.h"
 #include "support/TestText.h"
 
 #include <gtest/gtest.h>
@@ -125,25 +124,6 @@ TEST(TextStream, Utf8IsTheSameWhateverLiesAtTheBlockBorder)
                 stream.Append(text);
                 ASSERT_EQ(CEncoder::UnicodeToUtf8(text), Encoded(stream)) << position << ' ' << tail;
             }
-        }
-    }
-}
-
-TEST(TextStream, EncodingAtEveryFlushGivesTheSameOctets)
-{
-    const std::wstring pieces[] = {L"", L"a", L"\xD83D", L"\xDE00", Pattern(15) + L"\u20AC", L"\x1F600", L"\x110000",
-        Pattern(5000), std::wstring(9000, L'\u00E4')};
-    for (const std::wstring& first : pieces) {
-        for (const std::wstring& second : pieces) {
-            CUtf8TextStream stream;
-            stream.Open();
-            for (const std::wstring& piece : {first, second, first}) {
-                stream.Append(piece);
-                stream.Flush();
-            }
-            const CBinaryData octets = stream.TakeOctets();
-            ASSERT_EQ(CEncoder::UnicodeToUtf8(first + second + first),
-                std::string(reinterpret_cast<const char*>(octets.GetData()), octets.GetLength()));
         }
     }
 }
