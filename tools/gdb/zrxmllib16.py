@@ -176,6 +176,14 @@ def node_text(text):
     return memory(text["m_units"], 2 * int(text["m_length"])).decode("utf-16-le", "replace")
 
 
+def name_text(name):
+    """Text of a NameText: 16-bit units inside it, or the wide form."""
+    length = int(name["m_length"])
+    if length == 0xFF:
+        return wide(name["m_wide"])
+    return memory(name["m_units"].address, 2 * length).decode("utf-16-le", "replace")
+
+
 def attributes_of(element):
     """The attributes stand in a ring; the element knows the last one."""
     last = element["m_lastAttribute"]
@@ -207,7 +215,7 @@ def attribute(value):
 
 
 def element(value):
-    text = "<%s>" % qualified(wide(value["m_namespace"]), wide(value["m_elementName"]))
+    text = "<%s>" % qualified(wide(value["m_namespace"]), name_text(value["m_elementName"]))
     content = wide(value["m_text"])
     return text + (" text " + quoted(content) if content else "")
 
