@@ -20,6 +20,20 @@ struct XmlOutputOptions {
     CompressionType compression = Compression_None; ///< files refuse Compression_ZLib
 };
 
+/// How an object is written as JSON.
+struct JsonOutputOptions {
+    bool formatted = true;                          ///< whether members get lines of their own and indentation
+    XmlEncoding encoding = Encoding_UTF8;           ///< of the octets
+    EOLType eol = EOL_LF;                           ///< line end, also inside texts
+    CompressionType compression = Compression_None; ///< files refuse Compression_ZLib
+};
+
+/// How an object is written as Fast Infoset; what else there is to choose is in the context.
+struct FastInfosetOutputOptions {
+    FInfoDecl declaration = FInfoDecl_None;         ///< in front of the document
+    CompressionType compression = Compression_None; ///< files refuse Compression_ZLib
+};
+
 /// UTF-8 of wide text, as CEncoder has it.
 inline std::string ToUtf8(std::wstring_view text)
 {
@@ -32,7 +46,14 @@ inline std::wstring FromUtf8(std::string_view text)
     return CEncoder::Utf8ToUnicode(reinterpret_cast<const unsigned char*>(text.data()), text.length());
 }
 
-/// Fills the object from the bytes of a document: UTF-8 or what the document declares, compressed or not.
+/// The octets of binary data as they are, in a string.
+inline std::string BytesOf(const CBinaryData& data)
+{
+    return std::string(reinterpret_cast<const char*>(data.GetData()), data.GetLength());
+}
+
+/// Fills the object from the bytes of a document: XML in UTF-8 or what the document declares, or Fast Infoset,
+/// compressed or not.
 /// @throws CZrException as CXmlObjectBase::FromXmlStream does.
 inline void ReadXml(CXmlObjectBase& object, std::string_view document,
     const CSerializationContext& context = CSerializationContext::m_defaultContext)
@@ -52,9 +73,42 @@ inline void ReadXml(CXmlDocument& tree, std::string_view document)
 inline std::string WriteXml(const CXmlObjectBase& object, const XmlOutputOptions& options = XmlOutputOptions(),
     const CSerializationContext& context = CSerializationContext::m_defaultContext)
 {
-    const CBinaryData bytes = object.ToXmlStream(
-        options.includeHeader, options.formatted, options.encoding, options.eol, context, options.compression);
-    return std::string(reinterpret_cast<const char*>(bytes.GetData()), bytes.GetLength());
+    return BytesOf(object.ToXmlStream(
+        options.includeHeader, options.formatted, options.encoding, options.eol, context, options.compression));
+}
+
+/// Fills the object from JSON in UTF-8, compressed or not.
+/// @throws CZrException as CXmlObjectBase::FromJsonStream does.
+inline void ReadJson(CXmlObjectBase& object, std::string_view document,
+    const CSerializationContext& context = CSerializationContext::m_defaultContext)
+{
+    object.FromJsonStream(reinterpret_cast<const unsigned char*>(document.data()), document.length(), context);
+}
+
+/// Loads JSON in UTF-8 into a tree, in the JSON mode of the tree's context.
+/// @throws CZrException as CXmlDocument::LoadJsonStream and LoadXmlStream do.
+inline void ReadJson(CXmlDocument& tree, std::string_view document)
+{
+    const CBinaryData xml =
+        tree.LoadJsonStream(reinterpret_cast<const unsigned char*>(document.data()), document.length());
+    tree.LoadXmlStream(xml.GetData(), xml.GetLength());
+}
+
+/// The object as the bytes of a JSON document.
+/// @throws CZrException as CXmlObjectBase::ToJsonStream does.
+inline std::string WriteJson(const CXmlObjectBase& object, const JsonOutputOptions& options = JsonOutputOptions(),
+    const CSerializationContext& context = CSerializationContext::m_defaultContext)
+{
+    return BytesOf(object.ToJsonStream(options.formatted, options.encoding, options.eol, context, options.compression));
+}
+
+/// The object as the bytes of a Fast Infoset document, which ReadXml reads.
+/// @throws CZrException as CXmlObjectBase::ToFastInfosetStream does.
+inline std::string WriteFastInfoset(const CXmlObjectBase& object,
+    const FastInfosetOutputOptions& options = FastInfosetOutputOptions(),
+    const CSerializationContext& context = CSerializationContext::m_defaultContext)
+{
+    return BytesOf(object.ToFastInfosetStream(options.declaration, context, options.compression));
 }
 
 } // namespace ZrXmlLib16

@@ -46,6 +46,33 @@ inline void WriteXmlFile(const CXmlObjectBase& object, const std::filesystem::pa
         context, options.compression);
 }
 
+/// Fills the object from a file of JSON.
+/// @throws CZrException as CXmlObjectBase::FromJsonFile and FileNameOf do.
+inline void ReadJsonFile(CXmlObjectBase& object, const std::filesystem::path& file,
+    const CSerializationContext& context = CSerializationContext::m_defaultContext)
+{
+    object.FromJsonFile(FileNameOf(file).c_str(), context);
+}
+
+/// Writes the object into a file as JSON.
+/// @throws CZrException as CXmlObjectBase::ToJsonFile and FileNameOf do.
+inline void WriteJsonFile(const CXmlObjectBase& object, const std::filesystem::path& file,
+    const JsonOutputOptions& options = JsonOutputOptions(),
+    const CSerializationContext& context = CSerializationContext::m_defaultContext)
+{
+    object.ToJsonFile(
+        FileNameOf(file).c_str(), options.formatted, options.encoding, options.eol, context, options.compression);
+}
+
+/// Writes the object into a file as Fast Infoset, which ReadXmlFile reads.
+/// @throws CZrException as CXmlObjectBase::ToFastInfosetFile and FileNameOf do.
+inline void WriteFastInfosetFile(const CXmlObjectBase& object, const std::filesystem::path& file,
+    const FastInfosetOutputOptions& options = FastInfosetOutputOptions(),
+    const CSerializationContext& context = CSerializationContext::m_defaultContext)
+{
+    object.ToFastInfosetFile(FileNameOf(file).c_str(), options.declaration, context, options.compression);
+}
+
 } // namespace ZrXmlLib16
 
 #endif

@@ -35,6 +35,15 @@ inline std::string ReadToEnd(std::istream& stream)
     return bytes;
 }
 
+/// Writes bytes to a stream, opened as binary.
+/// @throws CZrException when the stream does not take everything.
+inline void WriteAll(const std::string& bytes, std::ostream& stream)
+{
+    if (!stream.write(bytes.data(), static_cast<std::streamsize>(bytes.length()))) {
+        throw CZrException(L"The output stream cannot be written.");
+    }
+}
+
 /// Fills the object from a stream, which is read to its end.
 /// @throws CZrException as ReadToEnd and CXmlObjectBase::FromXmlStream do.
 inline void ReadXml(CXmlObjectBase& object, std::istream& stream,
@@ -52,15 +61,43 @@ inline void ReadXml(CXmlDocument& tree, std::istream& stream)
 
 /// Writes the object to a stream, opened as binary, after the whole document has been made: a failure of the object
 /// writes nothing.
-/// @throws CZrException as CXmlObjectBase::ToXmlStream does, and when the stream does not take everything.
+/// @throws CZrException as CXmlObjectBase::ToXmlStream and WriteAll do.
 inline void WriteXml(const CXmlObjectBase& object, std::ostream& stream,
     const XmlOutputOptions& options = XmlOutputOptions(),
     const CSerializationContext& context = CSerializationContext::m_defaultContext)
 {
-    const std::string bytes = WriteXml(object, options, context);
-    if (!stream.write(bytes.data(), static_cast<std::streamsize>(bytes.length()))) {
-        throw CZrException(L"The output stream cannot be written.");
-    }
+    WriteAll(WriteXml(object, options, context), stream);
+}
+
+/// The same for JSON in UTF-8.
+/// @throws CZrException as ReadToEnd and CXmlObjectBase::FromJsonStream do.
+inline void ReadJson(CXmlObjectBase& object, std::istream& stream,
+    const CSerializationContext& context = CSerializationContext::m_defaultContext)
+{
+    ReadJson(object, ReadToEnd(stream), context);
+}
+
+/// @throws CZrException as ReadToEnd and ReadJson of a tree do.
+inline void ReadJson(CXmlDocument& tree, std::istream& stream)
+{
+    ReadJson(tree, ReadToEnd(stream));
+}
+
+/// @throws CZrException as CXmlObjectBase::ToJsonStream and WriteAll do.
+inline void WriteJson(const CXmlObjectBase& object, std::ostream& stream,
+    const JsonOutputOptions& options = JsonOutputOptions(),
+    const CSerializationContext& context = CSerializationContext::m_defaultContext)
+{
+    WriteAll(WriteJson(object, options, context), stream);
+}
+
+/// The same for Fast Infoset, which ReadXml reads.
+/// @throws CZrException as CXmlObjectBase::ToFastInfosetStream and WriteAll do.
+inline void WriteFastInfoset(const CXmlObjectBase& object, std::ostream& stream,
+    const FastInfosetOutputOptions& options = FastInfosetOutputOptions(),
+    const CSerializationContext& context = CSerializationContext::m_defaultContext)
+{
+    WriteAll(WriteFastInfoset(object, options, context), stream);
 }
 
 } // namespace ZrXmlLib16

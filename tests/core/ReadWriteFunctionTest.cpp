@@ -149,4 +149,62 @@ TEST(ReadWriteFunction, FilesAreNamedByPaths)
     }
 }
 
+const std::string jsonDocument = "{\"order\": {\"@id\": \"\xF0\x9F\x98\x80\",\"note\": \"caf\xC3\xA9\"}}";
+
+TEST(ReadWriteFunction, Json)
+{
+    TestObject object(NoteClass());
+    object.Set(L"note", L"caf\u00e9").Set(L"id", L"\xd83d\xde00");
+    JsonOutputOptions options;
+    options.formatted = false;
+    EXPECT_EQ(jsonDocument, WriteJson(object, options));
+    EXPECT_NE(jsonDocument, WriteJson(object));
+    EXPECT_EQ(description, After([](auto& read) { ReadJson(read, jsonDocument); }));
+    EXPECT_EQ(description, After([&](auto& read) { ReadJson(read, WriteJson(object, options)); }));
+
+    std::stringstream stream;
+    WriteJson(object, stream);
+    EXPECT_EQ(WriteJson(object), stream.str());
+    EXPECT_EQ(description, After([&](auto& read) { ReadJson(read, stream); }));
+
+    CXmlDocument tree;
+    std::istringstream again(jsonDocument);
+    ReadJson(tree, again);
+    EXPECT_EQ(L"caf\u00e9", tree.GetDocumentElement()->GetFirstElement()->GetText());
+    EXPECT_NE("", After([](auto& read) { ReadJson(read, std::string_view()); }));
+
+    CSerializationContext context;
+    context.GetJsonContext().SetRootElementName(L"order");
+    EXPECT_EQ("order{note=n}", After([&](auto& read) { ReadJson(read, "{\"note\":\"n\"}", context); }));
+}
+
+TEST(ReadWriteFunction, FastInfoset)
+{
+    TestObject object(NoteClass());
+    object.Set(L"note", L"caf\u00e9").Set(L"id", L"\xd83d\xde00");
+    const std::string bytes = WriteFastInfoset(object);
+    EXPECT_EQ(std::string("\xE0\0\0\1", 4), bytes.substr(0, 4));
+    FastInfosetOutputOptions options;
+    options.declaration = FInfoDecl_10EncYes;
+    for (const std::string& octets : {bytes, WriteFastInfoset(object, options)}) {
+        EXPECT_EQ(description, After([&](auto& read) { ReadXml(read, octets); }));
+    }
+    std::stringstream stream;
+    WriteFastInfoset(object, stream);
+    EXPECT_EQ(bytes, stream.str());
+}
+
+TEST(ReadWriteFunction, FilesOfTheOtherFormats)
+{
+    const std::filesystem::path file =
+        std::filesystem::temp_directory_path() / ("zrxml_other\xC3\xA9" + std::to_string(getpid()));
+    TestObject object(NoteClass());
+    object.Set(L"note", L"caf\u00e9").Set(L"id", L"\xd83d\xde00");
+    WriteJsonFile(object, file);
+    EXPECT_EQ(description, After([&](auto& read) { ReadJsonFile(read, file); }));
+    WriteFastInfosetFile(object, file);
+    EXPECT_EQ(description, After([&](auto& read) { ReadXmlFile(read, file); }));
+    std::filesystem::remove(file);
+}
+
 } // namespace
