@@ -27,6 +27,7 @@ public:
 
     /// @param text null is empty; may be part of the name.
     void Set(const wchar_t* text);
+    /// Whether the name is the text; never makes the wide form.
     bool Is(const std::wstring& text) const noexcept;
     /// Replaces the text by the name, reusing its storage.
     void CopyTo(std::wstring& text) const;

@@ -192,6 +192,7 @@ protected:
     CXmlObjectBase& operator=(const CXmlObjectBase& other);
     /// The element name, borrowed. The first call may make it.
     const std::wstring& ElementName() const;
+    /// Whether that is the element name; never makes it.
     bool HasElementName(const std::wstring& name) const { return m_elementName.Is(name); }
 
     friend class ZrXmlLib16Data::CAttributeInfo;
