@@ -194,6 +194,22 @@ TEST(ReadWriteFunction, FastInfoset)
     EXPECT_EQ(bytes, stream.str());
 }
 
+TEST(ReadWriteFunction, TheOtherFormatsAreCompressed)
+{
+    TestObject object(NoteClass());
+    object.Set(L"note", std::wstring(1000, L'n').c_str());
+    JsonOutputOptions jsonOptions;
+    jsonOptions.compression = Compression_GZip;
+    FastInfosetOutputOptions fastInfosetOptions;
+    fastInfosetOptions.compression = Compression_ZLib;
+    const std::string json = WriteJson(object, jsonOptions), fastInfoset = WriteFastInfoset(object, fastInfosetOptions);
+    EXPECT_LT(json.length(), 200U);
+    EXPECT_LT(fastInfoset.length(), 200U);
+    const std::string expected = Narrow(DescribeObject(object));
+    EXPECT_EQ(expected, After([&](auto& read) { ReadJson(read, json); }));
+    EXPECT_EQ(expected, After([&](auto& read) { ReadXml(read, fastInfoset); }));
+}
+
 TEST(ReadWriteFunction, FilesOfTheOtherFormats)
 {
     const std::filesystem::path file =

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ZrXmlLib16/BinaryData.h"
 #include "ZrXmlLib16/XmlDocument.h"
+#include "ZrXmlLib16/XmlElement.h"
 #include "ZrXmlLib16/ZrException.h"
 #include "ZrXmlLib16/ZrZip.h"
 #include "support/TestText.h"
@@ -9,6 +10,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -72,6 +74,33 @@ TEST(Loading, AcceptsEveryEncodingInAStream)
     EXPECT_EQ(L"a '\u00E9'", StreamTree(std::string("\xFF\xFE<\0a\0>\0\xE9\0<\0/\0a\0>\0", 18)));
     EXPECT_EQ(L"a '\u00E9'", StreamTree(std::string("\xFE\xFF\0<\0a\0>\0\xE9\0<\0/\0a\0>", 18)));
     EXPECT_EQ(L"a '\u20AC'", StreamTree(std::string("<\0a\0>\0\xAC\x20<\0/\0a\0>\0", 16)));
+}
+
+// The parser gets the text in parts of a megabyte and more: characters, line ends and tokens lie across their edges.
+TEST(Loading, JoinsThePartsOfALongText)
+{
+    std::string euros;
+    for (int i = 0; i < 1500000; ++i) {
+        euros += i % 100 == 99 ? "\r\n" : "\xE2\x82\xAC";
+    }
+    for (const std::size_t shift : {0U, 1U, 2U, 3U}) {
+        const std::string text =
+            std::string(shift, ' ') + "<a b=\"" + euros + "\"><!--" + euros + "-->" + euros + "</a>";
+        CXmlDocument document;
+        document.LoadXmlStream(reinterpret_cast<const unsigned char*>(text.data()), text.length());
+        std::wstring expected;
+        for (int i = 0; i < 1500000; ++i) {
+            expected += i % 100 == 99 ? L'\n' : L'\x20AC';
+        }
+        EXPECT_TRUE(expected == document.GetDocumentElement()->GetText()) << shift;
+        std::replace(expected.begin(), expected.end(), L'\n', L' ');
+        EXPECT_TRUE(expected == document.GetDocumentElement()->GetAttribute(L"b", L"")) << shift;
+    }
+    const std::string broken = "<a>\n" + euros + "</b>";
+    CXmlDocument document;
+    EXPECT_EQ(L"mismatched tag at line 15002", MessageOf<CZrException>([&] {
+        document.LoadXmlStream(reinterpret_cast<const unsigned char*>(broken.data()), broken.length());
+    }));
 }
 
 TEST(Loading, DecompressesStreams)
