@@ -86,7 +86,7 @@ void NodePool::Free(void* node) noexcept
 void XmlNameRelease::operator()(const XmlName* name) const noexcept
 {
     if (!name->storage) {
-        delete name;
+        delete static_cast<const OwnXmlName*>(name);
     }
 }
 

@@ -34,6 +34,9 @@ constexpr unsigned long LARGEST_EXPANSION = 1ul << 60;
 // What the parser needs whatever the document, several times.
 constexpr std::size_t MEMORY_BEYOND_EXPANSION = std::size_t(1) << 20;
 
+// The names that the parser hands out lie in its memory.
+static_assert(ParserMemory::SLACK >= NameTable::OVERREAD);
+
 std::wstring WidenOptional(const Utf16Unit* units)
 {
     std::wstring text;
@@ -77,6 +80,7 @@ void CExpatReader::CreateParser()
     if (!m_parser) {
         throw std::bad_alloc();
     }
+    m_storage = &m_document.GetStorage();
     XML_SetUserData(m_parser.get(), this);
     XML_SetElementHandler(m_parser.get(), FnStartElement, FnEndElement);
     XML_SetNamespaceDeclHandler(m_parser.get(), FnStartNamespace, FnEndNamespace);
@@ -158,7 +162,7 @@ void CExpatReader::FnStartElement(void* reader, const Utf16Unit* name, const Utf
 
 void CExpatReader::StartElement(const Utf16Unit* name, const Utf16Unit** attributes)
 {
-    NameTable& names = m_document.GetStorage().GetNames();
+    NameTable& names = m_storage->GetNames();
     const XmlName& elementName = names.Intern(name);
     CXmlElement* const element = m_document.GetDocumentElement() ? m_document.OpenChildElement(elementName)
                                                                  : m_document.OpenDocElement(elementName);

@@ -13,6 +13,7 @@ struct XML_ParserStruct;
 namespace ZrXmlLib16 {
 
 class CXmlDocument;
+class DocumentStorage;
 
 /// Reads XML text into a document: turns the events of the expat parser into nodes. Serves one parse.
 ///
@@ -51,6 +52,7 @@ private:
 
     CXmlDocument& m_document;
     const unsigned long m_maximumExpansion;
+    DocumentStorage* m_storage = nullptr; // of the document
     ParserMemory m_memory;
     std::unique_ptr<XML_ParserStruct, ParserDeleter> m_parser;
     std::exception_ptr m_handlerFailure;

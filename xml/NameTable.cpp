@@ -2,16 +2,20 @@
 #include "xml/NameTable.h"
 
 #include "values/HashSecret.h"
+#include "xml/DocumentStorage.h"
 #include "xml/XmlNamespaces.h"
 
+#include <algorithm>
 #include <cstring>
+#include <new>
 #include <utility>
 
 namespace ZrXmlLib16 {
 
 namespace {
 
-constexpr std::size_t FIRST_SLOT_COUNT = 32;
+constexpr std::size_t FIRST_SLOT_COUNT = 64;
+constexpr std::size_t ORDINARY_LENGTH = 128;
 
 bool IsInfrastructureNamespace(const std::wstring& namespaceUri)
 {
@@ -31,68 +35,40 @@ std::wstring Widen(const Utf16Unit* units, std::size_t length)
     return text;
 }
 
-XmlName SplitName(const Utf16Unit* qualifiedName, std::size_t length, DocumentStorage& storage)
-{
-    const Utf16Unit* const end = qualifiedName + length;
-    const Utf16Unit* const separator = std::find(qualifiedName, end, Utf16Unit{L'|'});
-    if (separator == end) {
-        return XmlName(std::wstring(), Widen(qualifiedName, length), &storage);
-    }
-    return XmlName(Widen(qualifiedName, static_cast<std::size_t>(separator - qualifiedName)),
-        Widen(separator + 1, static_cast<std::size_t>(end - separator - 1)), &storage);
-}
-
 } // namespace
 
 // kept: required behaviour. The namespace of declarations counts like the instance namespace, for "nil" too.
-XmlName::XmlName(std::wstring namespaceOfName, std::wstring localPart, DocumentStorage* nameStorage)
-    : namespaceUri(std::move(namespaceOfName))
+XmlName::XmlName(const std::wstring& namespaceOfName, std::wstring localPart, DocumentStorage* nameStorage)
+    : namespaceUri(namespaceOfName)
     , localName(std::move(localPart))
     , isNamespaceAttribute(IsInfrastructureNamespace(namespaceUri) && IsInfrastructureName(localName))
     , isNilAttribute(IsInfrastructureNamespace(namespaceUri) && localName == L"nil")
+    , isLong(namespaceUri.size() + localName.size() > ORDINARY_LENGTH)
     , storage(nameStorage)
 {
 }
 
-NameTable::Entry::Entry(const Key& key, XmlName entryName)
-    : keyUnits(key.size / sizeof(Utf16Unit))
+NameTable::Entry::Entry(const Key& key, XmlName entryName, Entry* olderEntry)
+    : name(std::move(entryName))
+    , keySize(key.size)
+    , hash(key.hash)
     , form(key.form)
-    , name(std::move(entryName))
+    , older(olderEntry)
 {
-    std::memcpy(keyUnits.data(), key.bytes, key.size);
+    std::memcpy(reinterpret_cast<char*>(this + 1), key.bytes, key.size);
 }
 
-NameTable::NameTable(DocumentStorage& owner)
-    : m_owner(owner)
+bool NameTable::Entry::Is(const Key& key) const noexcept
 {
+    return hash == key.hash && form == key.form && keySize == key.size
+        && std::memcmp(KeyBytes(), key.bytes, key.size) == 0;
 }
 
-// Stops at the first difference: what lies behind a shorter name must not be read.
-bool NameTable::Entry::Is(const Utf16Unit* qualifiedName) const noexcept
+NameTable::~NameTable()
 {
-    const Utf16Unit* own = keyUnits.data();
-    const Utf16Unit* const end = own + keyUnits.size();
-    for (; end - own >= 4; own += 4, qualifiedName += 4) {
-        if (own[0] != qualifiedName[0] || own[1] != qualifiedName[1] || own[2] != qualifiedName[2]
-            || own[3] != qualifiedName[3]) {
-            return false;
-        }
+    while (m_newest) {
+        std::exchange(m_newest, m_newest->older)->~Entry();
     }
-    for (; own != end; ++own, ++qualifiedName) {
-        if (*own != *qualifiedName) {
-            return false;
-        }
-    }
-    return true;
-}
-
-const XmlName& NameTable::Intern(const Utf16Unit* qualifiedName)
-{
-    if (m_previous && m_previous->follower && m_previous->follower->Is(qualifiedName)) {
-        m_previous = m_previous->follower;
-        return m_previous->name;
-    }
-    return Search(qualifiedName);
 }
 
 // Apart from Intern, so that the usual way through that stays short.
@@ -100,13 +76,25 @@ const XmlName& NameTable::Search(const Utf16Unit* qualifiedName)
 {
     const std::size_t length = Utf16Length(qualifiedName);
     const Key key = MakeKey(qualifiedName, (length + 1) * sizeof(Utf16Unit), KeyForm::Parser);
-    Entry* const found = Find(key);
-    Entry& entry = found ? *found : Insert(key, SplitName(qualifiedName, length, m_owner));
-    if (m_previous) {
-        m_previous->follower = &entry;
+    Entry* entry = Find(key);
+    if (!entry) {
+        entry = &Insert(key, SplitName(qualifiedName, length));
     }
-    m_previous = &entry;
-    return entry.name;
+    if (m_previous) {
+        m_previous->followers[1] = std::exchange(m_previous->followers[0], entry);
+    }
+    m_previous = entry;
+    return entry->name;
+}
+
+XmlName NameTable::SplitName(const Utf16Unit* qualifiedName, std::size_t length)
+{
+    const Utf16Unit* const end = qualifiedName + length;
+    const Utf16Unit* const separator = std::find(qualifiedName, end, Utf16Unit{L'|'});
+    const Utf16Unit* const localName = separator == end ? qualifiedName : separator + 1;
+    const std::size_t namespaceLength = separator == end ? 0 : static_cast<std::size_t>(separator - qualifiedName);
+    return XmlName(ShareNamespace(Widen(qualifiedName, namespaceLength)),
+        Widen(localName, static_cast<std::size_t>(end - localName)), &m_owner);
 }
 
 const XmlName& NameTable::Intern(const std::wstring& namespaceUri, const std::wstring& localName)
@@ -115,10 +103,22 @@ const XmlName& NameTable::Intern(const std::wstring& namespaceUri, const std::ws
     m_wideKey.append(namespaceUri).append(localName);
     const Key key = MakeKey(m_wideKey.data(), m_wideKey.size() * sizeof(wchar_t), KeyForm::Wide);
     const Entry* const found = Find(key);
-    return found ? found->name : Insert(key, XmlName(namespaceUri, localName, &m_owner)).name;
+    return found ? found->name : Insert(key, XmlName(ShareNamespace(namespaceUri), localName, &m_owner)).name;
 }
 
-NameTable::Key NameTable::MakeKey(const void* bytes, std::size_t size, KeyForm form) const noexcept
+/// The one text for a namespace, which lives as long as the table.
+const std::wstring& NameTable::ShareNamespace(const std::wstring& namespaceUri)
+{
+    static const std::wstring none;
+    if (namespaceUri.empty()) {
+        return none;
+    }
+    const Key key = MakeKey(namespaceUri.data(), namespaceUri.size() * sizeof(wchar_t), KeyForm::Namespace);
+    const Entry* const found = Find(key);
+    return found ? found->name.localName : Insert(key, XmlName(none, namespaceUri, &m_owner)).name.localName;
+}
+
+NameTable::Key NameTable::MakeKey(const void* bytes, std::size_t size, KeyForm form) noexcept
 {
     const HashSecret& secret = GetHashSecret();
     std::uint64_t hash = MultiplyAndFold(secret.seed ^ size, secret.multiplier);
@@ -139,49 +139,45 @@ NameTable::Key NameTable::MakeKey(const void* bytes, std::size_t size, KeyForm f
 
 NameTable::Entry* NameTable::Find(const Key& key) const noexcept
 {
-    if (m_slots.empty()) {
+    if (m_slotCount == 0) {
         return nullptr;
     }
-    const std::size_t mask = m_slots.size() - 1;
+    const std::size_t mask = m_slotCount - 1;
     for (std::size_t index = key.hash & mask;; index = (index + 1) & mask) {
-        const Slot& slot = m_slots[index];
-        if (!slot.entry) {
-            return nullptr;
-        }
-        if (slot.hash == key.hash && slot.entry->form == key.form
-            && slot.entry->keyUnits.size() * sizeof(Utf16Unit) == key.size
-            && std::memcmp(slot.entry->keyUnits.data(), key.bytes, key.size) == 0) {
-            return slot.entry;
+        Entry* const entry = m_slots[index];
+        if (!entry || entry->Is(key)) {
+            return entry;
         }
     }
 }
 
 NameTable::Entry& NameTable::Insert(const Key& key, XmlName name)
 {
-    if (2 * (m_entries.size() + 1) > m_slots.size()) {
+    if (2 * (m_entryCount + 1) > m_slotCount) {
         Grow();
     }
-    m_entries.emplace_back(key, std::move(name));
-    FreeSlot(key.hash) = Slot{key.hash, &m_entries.back()};
-    return m_entries.back();
+    void* const memory = m_owner.GetArena().Allocate(sizeof(Entry) + std::max(key.size, Entry::BLOCK), alignof(Entry));
+    m_newest = new (memory) Entry(key, std::move(name), m_newest);
+    ++m_entryCount;
+    return *(FreeSlot(key.hash) = m_newest);
 }
 
 void NameTable::Grow()
 {
-    std::vector<Slot> old(std::max(FIRST_SLOT_COUNT, 2 * m_slots.size()), Slot{0, nullptr});
-    old.swap(m_slots);
-    for (const Slot& slot : old) {
-        if (slot.entry) {
-            FreeSlot(slot.hash) = slot;
-        }
+    const std::size_t count = std::max(FIRST_SLOT_COUNT, 2 * m_slotCount);
+    m_slots = static_cast<Entry**>(m_owner.GetArena().Allocate(count * sizeof(Entry*), alignof(Entry*)));
+    m_slotCount = count;
+    std::fill_n(m_slots, count, nullptr);
+    for (Entry* entry = m_newest; entry; entry = entry->older) {
+        FreeSlot(entry->hash) = entry;
     }
 }
 
-NameTable::Slot& NameTable::FreeSlot(std::uint64_t hash) noexcept
+NameTable::Entry*& NameTable::FreeSlot(std::uint64_t hash) noexcept
 {
-    const std::size_t mask = m_slots.size() - 1;
+    const std::size_t mask = m_slotCount - 1;
     std::size_t index = hash & mask;
-    while (m_slots[index].entry) {
+    while (m_slots[index]) {
         index = (index + 1) & mask;
     }
     return m_slots[index];

@@ -5,77 +5,152 @@
 #include "xml/Utf16Text.h"
 
 #include <cstdint>
-#include <deque>
 #include <string>
-#include <vector>
 
 namespace ZrXmlLib16 {
 
 class DocumentStorage;
 
-/// The name of an element or attribute, with the two questions that readers ask about attribute names answered once.
+/// The name of an element or attribute, with the questions that readers ask about names answered once.
 struct XmlName {
+    /// @param namespaceOfName not owned.
     /// @param nameStorage where the name is shared; null for a name that belongs to a single node.
-    XmlName(std::wstring namespaceOfName, std::wstring localPart, DocumentStorage* nameStorage);
+    XmlName(const std::wstring& namespaceOfName, std::wstring localPart, DocumentStorage* nameStorage);
 
-    std::wstring namespaceUri;
-    std::wstring localName;
+    const std::wstring& namespaceUri;
+    const std::wstring localName;
     bool isNamespaceAttribute;
     bool isNilAttribute;
+    bool isLong; ///< more than 128 characters
     DocumentStorage* storage;
+};
+
+struct OwnNamespace {
+    const std::wstring text;
+};
+
+/// The name of a node that was built by hand.
+struct OwnXmlName : private OwnNamespace, public XmlName {
+    OwnXmlName(const std::wstring& namespaceOfName, const std::wstring& localPart)
+        : OwnNamespace{namespaceOfName}
+        , XmlName(text, localPart, nullptr)
+    {
+    }
 };
 
 /// The distinct names of one document. A name lives as long as the table and never moves.
 ///
 /// Names are found by the form they arrive in: the units the parser delivers, or namespace and local name as wide text.
 /// The same name arriving in both forms gets two entries, so equal names need not have equal addresses. Documents
-/// repeat themselves: the name that followed last time is tried before the search.
+/// repeat themselves: the names that followed the previous one before are tried ahead of the search.
 class NameTable {
 public:
-    explicit NameTable(DocumentStorage& owner);
+    /// Octets behind the end of a name that Intern may look at.
+    static constexpr std::size_t OVERREAD = 16;
+
+    explicit NameTable(DocumentStorage& owner) noexcept
+        : m_owner(owner)
+    {
+    }
+    ~NameTable();
     NameTable(const NameTable&) = delete;
     NameTable& operator=(const NameTable&) = delete;
 
-    /// @param qualifiedName NUL-terminated: the namespace, "|" and the local name, or the local name alone.
-    const XmlName& Intern(const Utf16Unit* qualifiedName);
+    /// @param qualifiedName NUL-terminated: the namespace, "|" and the local name, or the local name alone. OVERREAD
+    /// octets behind it can be read.
+    const XmlName& Intern(const Utf16Unit* qualifiedName)
+    {
+        if (m_previous) {
+            for (Entry* const follower : m_previous->followers) {
+                if (follower && follower->Is(qualifiedName)) {
+                    m_previous = follower;
+                    return follower->name;
+                }
+            }
+        }
+        return Search(qualifiedName);
+    }
     const XmlName& Intern(const std::wstring& namespaceUri, const std::wstring& localName);
 
 private:
-    enum class KeyForm { Parser, Wide };
+    /// What the key of an entry is: what the parser delivered, or wide text, for a name or for its namespace alone.
+    enum class KeyForm : unsigned char { Parser, Wide, Namespace };
     struct Key {
         const char* bytes;
         std::size_t size;
         KeyForm form;
         std::uint64_t hash;
     };
+    /// Lies in the document's arena, its key behind it, at least a block long.
     struct Entry {
-        Entry(const Key& key, XmlName entryName);
+        static constexpr std::size_t BLOCK = 16;
 
+        Entry(const Key& key, XmlName entryName, Entry* olderEntry);
+
+        bool Is(const Key& key) const noexcept;
         bool Is(const Utf16Unit* qualifiedName) const noexcept;
+        static bool SameStart(const char* own, const char* other, std::size_t size) noexcept;
+        const char* KeyBytes() const noexcept { return reinterpret_cast<const char*>(this + 1); }
 
-        std::vector<Utf16Unit> keyUnits; // of the parser's form: with the final NUL; a wide character takes two
-        const KeyForm form;
         const XmlName name;
-        Entry* follower = nullptr; // the parser's name that came after this one the last time
-    };
-    struct Slot {
-        std::uint64_t hash;
-        Entry* entry; // null marks a free slot
+        const std::size_t keySize; // of the parser's form: with the final NUL
+        const std::uint64_t hash;
+        const KeyForm form;
+        Entry* const older;              // all entries, the newest first
+        Entry* followers[2] = {nullptr}; // the parser's names that came after this one, the latest new one first
     };
 
     [[gnu::noinline]] const XmlName& Search(const Utf16Unit* qualifiedName);
-    Key MakeKey(const void* bytes, std::size_t size, KeyForm form) const noexcept;
+    XmlName SplitName(const Utf16Unit* qualifiedName, std::size_t length);
+    const std::wstring& ShareNamespace(const std::wstring& namespaceUri);
+    static Key MakeKey(const void* bytes, std::size_t size, KeyForm form) noexcept;
     Entry* Find(const Key& key) const noexcept;
     Entry& Insert(const Key& key, XmlName name);
     void Grow();
-    Slot& FreeSlot(std::uint64_t hash) noexcept;
+    Entry*& FreeSlot(std::uint64_t hash) noexcept;
 
     DocumentStorage& m_owner;
-    std::deque<Entry> m_entries;
-    std::vector<Slot> m_slots;   // open addressing; the size is a power of two, at most half of it in use
+    Entry* m_newest = nullptr;
     Entry* m_previous = nullptr; // the last one that came from the parser
-    std::wstring m_wideKey;      // reused
+    Entry** m_slots = nullptr;   // open addressing, in the arena; at most half of them in use, null marks a free one
+    std::size_t m_slotCount = 0; // a power of two
+    std::size_t m_entryCount = 0;
+    std::wstring m_wideKey; // reused
 };
+
+// Stops at the first block that differs: what lies behind a shorter name must not be read, but for the rest of the
+// block.
+inline bool NameTable::Entry::Is(const Utf16Unit* qualifiedName) const noexcept
+{
+    const char* own = KeyBytes();
+    const char* other = reinterpret_cast<const char*>(qualifiedName);
+    if (keySize < BLOCK) {
+        return SameStart(own, other, keySize);
+    }
+    std::size_t rest = keySize;
+    for (; rest > BLOCK; rest -= BLOCK, own += BLOCK, other += BLOCK) {
+        if (!SameBytes<BLOCK>(own, other)) {
+            return false;
+        }
+    }
+    // The last block may begin within the one before.
+    return SameBytes<BLOCK>(own + rest - BLOCK, other + rest - BLOCK);
+}
+
+// A block of either is read, and what lies behind the first octets left out of account.
+inline bool NameTable::Entry::SameStart(const char* own, const char* other, std::size_t size) noexcept
+{
+    constexpr std::size_t HALF = sizeof(std::uint64_t);
+    std::uint64_t ownHalves[2];
+    std::uint64_t otherHalves[2];
+    std::memcpy(ownHalves, own, BLOCK);
+    std::memcpy(otherHalves, other, BLOCK);
+    const std::size_t half = size < HALF ? 0 : 1;
+    const std::uint64_t mask = (std::uint64_t(1) << (8 * (size - half * HALF))) - 1;
+    const std::uint64_t first = ownHalves[0] ^ otherHalves[0];
+    const std::uint64_t second = ownHalves[1] ^ otherHalves[1];
+    return half == 0 ? (first & mask) == 0 : (first | (second & mask)) == 0;
+}
 
 } // namespace ZrXmlLib16
 

@@ -43,6 +43,18 @@ unsigned short* NodeText::MakeRoom(DocumentStorage& storage, std::size_t count)
 
 void NodeText::AppendUnits(DocumentStorage* storage, const unsigned short* units, std::size_t count)
 {
+    if (m_capacity == 0 && storage && storage->KeepsTexts() && count <= LONGEST_UNITS) { // most texts come in one piece
+        m_units = static_cast<unsigned short*>(
+            storage->GetArena().Allocate(count * sizeof(*m_units), alignof(unsigned short)));
+        m_capacity = static_cast<std::uint32_t>(count);
+        m_length = static_cast<std::uint32_t>(CopyExcludingCR(m_units, units, count) - m_units);
+    } else {
+        AppendFurtherUnits(storage, units, count);
+    }
+}
+
+void NodeText::AppendFurtherUnits(DocumentStorage* storage, const unsigned short* units, std::size_t count)
+{
     unsigned short* const room = storage && !IsWide() ? MakeRoom(*storage, count) : nullptr;
     if (room) {
         m_length += static_cast<std::uint32_t>(CopyExcludingCR(room, units, count) - room);

@@ -44,7 +44,7 @@ void* ParserMemory::Allocate(std::size_t size) noexcept
     if (!memory.Take(size)) {
         return nullptr;
     }
-    auto* const header = static_cast<Header*>(std::malloc(sizeof(Header) + size));
+    auto* const header = static_cast<Header*>(std::malloc(sizeof(Header) + size + SLACK));
     if (!header) {
         memory.m_isSystemExhausted = true;
         memory.m_taken -= size;
@@ -65,7 +65,7 @@ void* ParserMemory::Reallocate(void* block, std::size_t size) noexcept
     if (size > oldSize && !memory.Take(size - oldSize)) {
         return nullptr;
     }
-    auto* const moved = static_cast<Header*>(std::realloc(header, sizeof(Header) + size));
+    auto* const moved = static_cast<Header*>(std::realloc(header, sizeof(Header) + size + SLACK));
     if (!moved) {
         memory.m_isSystemExhausted = true;
         memory.m_taken -= size > oldSize ? size - oldSize : 0;

@@ -34,6 +34,9 @@ public:
     /// keep themselves.
     bool IsSystemExhausted() const noexcept { return m_isSystemExhausted; }
 
+    /// Octets behind the end of every block that can be read, though they mean nothing.
+    static constexpr std::size_t SLACK = 16;
+
     // The functions that the parser calls. Null when there is no memory or the limit is reached.
     static void* Allocate(std::size_t size) noexcept;
     static void* Reallocate(void* block, std::size_t size) noexcept;

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <string>
 
 namespace ZrXmlLib16 {
@@ -19,6 +21,12 @@ inline std::size_t Utf16Length(const Utf16Unit* text) noexcept
         ++end;
     }
     return static_cast<std::size_t>(end - text);
+}
+
+/// Whether the octets at two places, which need no alignment, are the same.
+template <std::size_t Count> bool SameBytes(const void* left, const void* right) noexcept
+{
+    return std::memcmp(left, right, Count) == 0;
 }
 
 inline wchar_t ToWide(Utf16Unit unit) noexcept
@@ -72,23 +80,41 @@ inline wchar_t* WidenExcludingCR(wchar_t* output, const Utf16Unit* units, std::s
     return std::copy_if(units, end, output, [](Utf16Unit unit) { return unit != CARRIAGE_RETURN; });
 }
 
-/// Copies the units, carriage returns left out.
+/// Copies the units of one word.
+/// @return nonzero when one of them is a carriage return.
+template <class Word> Word CopyWord(Utf16Unit* output, const Utf16Unit* units) noexcept
+{
+    constexpr Word ONES = static_cast<Word>(0x0001000100010001u);
+    constexpr Word CARRIAGE_RETURNS = 13 * ONES;
+    Word word = 0;
+    std::memcpy(&word, units, sizeof(word));
+    std::memcpy(output, &word, sizeof(word));
+    const Word difference = word ^ CARRIAGE_RETURNS; // a unit is 0 where there is a carriage return
+    return (difference - ONES) & ~difference & (ONES << 15);
+}
+
+/// Copies the units, carriage returns left out. Short texts are the rule, and their lengths cannot be foretold: words
+/// that overlap need few branches.
 /// @return the end of what was written.
 inline Utf16Unit* CopyExcludingCR(Utf16Unit* output, const Utf16Unit* units, std::size_t length)
 {
     constexpr Utf16Unit CARRIAGE_RETURN = 13;
-    const Utf16Unit* const end = units + length;
-    if (length < 16) { // too short for the two vectorised passes
-        for (; units != end; ++units) {
-            *output = *units;
-            output += *units != CARRIAGE_RETURN;
+    std::uint64_t found = 0;
+    if (length >= 4) {
+        for (std::size_t position = 0; position + 4 < length; position += 4) {
+            found |= CopyWord<std::uint64_t>(output + position, units + position);
         }
-        return output;
+        found |= CopyWord<std::uint64_t>(output + length - 4, units + length - 4);
+    } else if (length >= 2) {
+        found = CopyWord<std::uint32_t>(output, units) | CopyWord<std::uint32_t>(output + length - 2, units + length - 2);
+    } else if (length == 1) {
+        *output = *units;
+        found = *units == CARRIAGE_RETURN;
     }
-    if (std::count(units, end, CARRIAGE_RETURN) == 0) { // nearly always: the parser normalises line ends
-        return std::copy(units, end, output);
+    if (found == 0) { // nearly always: the parser normalises line ends
+        return output + length;
     }
-    return std::copy_if(units, end, output, [](Utf16Unit unit) { return unit != CARRIAGE_RETURN; });
+    return std::copy_if(units, units + length, output, [](Utf16Unit unit) { return unit != CARRIAGE_RETURN; });
 }
 
 /// Whether every character is a single unit.

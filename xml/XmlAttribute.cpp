@@ -10,7 +10,7 @@ namespace ZrXmlLib16 {
 CXmlAttribute::CXmlAttribute(
     CXmlElement* owner, const std::wstring& localName, const std::wstring& value, const std::wstring& namespaceUri)
     : m_owner(owner)
-    , m_name(new XmlName(namespaceUri, localName, nullptr))
+    , m_name(new OwnXmlName(namespaceUri, localName))
     , m_next(this)
 {
     m_value.AppendWide(nullptr, value.data(), value.size());

@@ -40,6 +40,7 @@ CXmlDocument::CXmlDocument(bool (*elementEnd)(CXmlElement*), const CSerializatio
     : m_input(nullptr)
     , m_inputSize(0)
     , m_elementCount(0)
+    , m_maximumElements(0)
     , m_nameCharacters(0)
     , m_schemaType(SchemaType_XSD)
     , m_elementEnd(elementEnd)
@@ -119,6 +120,7 @@ CXmlElement* CXmlDocument::AddChildElement(const std::wstring& namespaceUri, con
 
 CXmlElement* CXmlDocument::OpenDocElement(const XmlName& name)
 {
+    m_maximumElements = m_context->GetInputLimits().GetMaxElements();
     m_elementStack.clear();
     m_documentElement = NewElement(nullptr, name);
     m_elementStack.push_back(m_documentElement.get());
@@ -135,9 +137,8 @@ CXmlElement* CXmlDocument::OpenChildElement(const XmlName& name)
 
 std::unique_ptr<CXmlElement> CXmlDocument::NewElement(CXmlElement* parent, const XmlName& name)
 {
-    const unsigned long maximum = m_context->GetInputLimits().GetMaxElements();
-    if (m_elementCount >= maximum) {
-        throw CZrException(FormatString(Message::TOO_MANY_ELEMENTS, maximum));
+    if (m_elementCount >= m_maximumElements) {
+        throw CZrException(FormatString(Message::TOO_MANY_ELEMENTS, m_maximumElements));
     }
     ++m_elementCount;
     CountName(name);
@@ -147,30 +148,25 @@ std::unique_ptr<CXmlElement> CXmlDocument::NewElement(CXmlElement* parent, const
 // A prefix or an index repeats a namespace or name of any length, which every object that takes it copies.
 void CXmlDocument::CountName(const XmlName& name)
 {
-    constexpr std::size_t ORDINARY_LENGTH = 128;
-    const std::size_t length = name.namespaceUri.size() + name.localName.size();
-    if (length <= ORDINARY_LENGTH || !m_input) { // without input the names come from the program
+    if (!name.isLong || !m_input) { // without input the names come from the program
         return;
     }
-    m_nameCharacters += length;
+    m_nameCharacters += name.namespaceUri.size() + name.localName.size();
     const unsigned long maximum = CFormatSettings::MaximumExpansion(*m_context, m_inputSize);
     if (m_nameCharacters > maximum) {
         throw CZrException(FormatString(Message::NAMES_EXPAND_TOO_FAR, maximum));
     }
 }
 
-CXmlElement& CXmlDocument::RequireOpenElement() const
+void CXmlDocument::ThrowNoElementOpen()
 {
-    if (m_elementStack.empty()) {
-        throw CZrInvalidStateException(Message::NO_ELEMENT_OPEN_IN_DOCUMENT);
-    }
-    return *m_elementStack.back();
+    throw CZrInvalidStateException(Message::NO_ELEMENT_OPEN_IN_DOCUMENT);
 }
 
 CXmlElement& CXmlDocument::RequireOpenElement(CXmlElement* element) const
 {
     if (!element) {
-        throw CZrInvalidStateException(Message::NO_ELEMENT_OPEN_IN_DOCUMENT);
+        ThrowNoElementOpen();
     }
     RequireOpenElement();
     return *element;

@@ -11,7 +11,7 @@
 namespace ZrXmlLib16 {
 
 CXmlElement::CXmlElement(CXmlDocument* document, CXmlElement* parent)
-    : CXmlElement(document, parent, new XmlName(std::wstring(), std::wstring(), nullptr))
+    : CXmlElement(document, parent, new OwnXmlName(std::wstring(), std::wstring()))
 {
 }
 
@@ -187,8 +187,9 @@ void CXmlElement::SetNamespace(const std::wstring& namespaceUri)
 void CXmlElement::SetName(const std::wstring& namespaceUri, const std::wstring& localName)
 {
     DocumentStorage* const storage = GetStorage();
-    m_name.reset(
-        storage ? &storage->GetNames().Intern(namespaceUri, localName) : new XmlName(namespaceUri, localName, nullptr));
+    const XmlName* const name =
+        storage ? &storage->GetNames().Intern(namespaceUri, localName) : new OwnXmlName(namespaceUri, localName);
+    m_name.reset(name);
 }
 
 CXmlElement* CXmlElement::GetFirstElement() const

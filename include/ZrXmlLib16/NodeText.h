@@ -70,6 +70,7 @@ private:
     static constexpr std::uint32_t WIDE = UINT32_MAX;
 
     bool IsWide() const noexcept { return m_capacity == WIDE; }
+    void AppendFurtherUnits(DocumentStorage* storage, const unsigned short* units, std::size_t count);
     unsigned short* MakeRoom(DocumentStorage& storage, std::size_t count);
 
     union {

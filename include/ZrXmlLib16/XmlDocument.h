@@ -130,7 +130,14 @@ private:
     CXmlElement* OpenChildElement(const XmlName& name);
     std::unique_ptr<CXmlElement> NewElement(CXmlElement* parent, const XmlName& name);
     void CountName(const XmlName& name);
-    CXmlElement& RequireOpenElement() const;
+    CXmlElement& RequireOpenElement() const
+    {
+        if (m_elementStack.empty()) {
+            ThrowNoElementOpen();
+        }
+        return *m_elementStack.back();
+    }
+    [[noreturn]] static void ThrowNoElementOpen();
     CXmlElement& RequireOpenElement(CXmlElement* element) const;
 
     std::unique_ptr<CXmlElement> m_documentElement;
@@ -141,6 +148,7 @@ private:
     const unsigned char* m_input;
     unsigned long m_inputSize;
     unsigned long m_elementCount;   // begun since the last clean-up
+    unsigned long m_maximumElements; // as the context said at the root
     unsigned long m_nameCharacters; // of their names and those of their attributes, as far as these are long
     SchemaType m_schemaType;
     bool (*m_elementEnd)(CXmlElement*);
