@@ -3,6 +3,7 @@
 #include "ZrXmlLib16/SerializationContext.h"
 #include "ZrXmlLib16/XmlElement.h"
 #include "ZrXmlLib16/XmlObjectHelper.h"
+#include "core/TextComparison.h"
 
 #include <string_view>
 
@@ -34,11 +35,9 @@ bool TestToken(const std::wstring& namespaceUri, std::wstring_view token, const 
 bool CXmlObjectHelper::DoesElementNameMatch(const CSerializationContext& context, const CXmlElement* element,
     const std::wstring& name, const std::wstring& namespaceUri)
 {
-    if (!element || element->GetLocalName() != name) {
-        return false;
-    }
-    return context.GetIgnoreNamespaces() || context.GetSchemaType() == SchemaType_DTD
-        || element->GetNamespaceURI() == namespaceUri;
+    return element && SameText(element->GetLocalName(), name)
+        && (context.GetIgnoreNamespaces() || context.GetSchemaType() == SchemaType_DTD
+            || SameText(element->GetNamespaceURI(), namespaceUri));
 }
 
 bool CXmlObjectHelper::IsNamespaceValid(

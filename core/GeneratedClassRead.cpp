@@ -45,8 +45,9 @@ CXmlElement* CXmlGeneratedClass::FromXml_Int(
     m_touched = false;
     try {
         Init();
-        if (GetClassInfo()->GetElementType() != XmlElementType_Element) {
-            return ReadContent(element, firstChild, context, isOptional);
+        const CParentElementInfo& info = *GetClassInfo();
+        if (info.GetElementType() != XmlElementType_Element) {
+            return ReadContent(info, element, firstChild, context, isOptional);
         }
         const CDepthGuard depth;
         if (depth.IsTooDeep(context)) {
@@ -55,7 +56,7 @@ CXmlElement* CXmlGeneratedClass::FromXml_Int(
         if (!HasElementName(element->GetLocalName())) {
             SetElementName(element->GetLocalName().c_str());
         }
-        return ReadContent(element, firstChild, context, isOptional);
+        return ReadContent(info, element, firstChild, context, isOptional);
     } catch (const CZrException& exception) {
         if (!exception.GetPath().empty()) {
             // kept: required behaviour. The innermost location wins, and the copy is of the base type.
@@ -65,24 +66,23 @@ CXmlElement* CXmlGeneratedClass::FromXml_Int(
     }
 }
 
-CXmlElement* CXmlGeneratedClass::ReadContent(
-    CXmlElement* element, CXmlElement* cursor, const CSerializationContext& context, bool isOptional)
+CXmlElement* CXmlGeneratedClass::ReadContent(const CParentElementInfo& info, CXmlElement* element, CXmlElement* cursor,
+    const CSerializationContext& context, bool isOptional)
 {
-    ProcessAttributesFromXml(context, element, GetClassInfo()->GetRejectUnknownAttributes());
-    const INillable* nillable = NodeAccess::FindNillable(*element, *this);
+    ProcessAttributesFromXml(context, element, info.GetRejectUnknownAttributes());
+    const INillable* nillable = NodeAccess::FindNillable(*element, *this, &info);
     if (nillable && nillable->IsNil()) {
         m_satisfied = true;
         return cursor;
     }
-    CXmlElement* rest = ReadGroup(element, cursor, context, isOptional);
-    ReadSimpleContent(element);
+    CXmlElement* rest = ReadGroup(info, element, cursor, context, isOptional);
+    ReadSimpleContent(info, element);
     return rest;
 }
 
-CXmlElement* CXmlGeneratedClass::ReadGroup(
-    CXmlElement* element, CXmlElement* cursor, const CSerializationContext& context, bool isOptional)
+CXmlElement* CXmlGeneratedClass::ReadGroup(const CParentElementInfo& info, CXmlElement* element, CXmlElement* cursor,
+    const CSerializationContext& context, bool isOptional)
 {
-    const CParentElementInfo& info = *GetClassInfo();
     switch (info.GetGroupType()) {
     case ZrXmlLib16Data::XmlElementGroup_Sequence:
         return ProcessElementSeqFromXml(context, element, cursor, info.GetElementType());
@@ -94,15 +94,14 @@ CXmlElement* CXmlGeneratedClass::ReadGroup(
     throw CZrException(Message::UNKNOWN_GROUP_TYPE_ON_READ);
 }
 
-void CXmlGeneratedClass::ReadSimpleContent(const CXmlElement* element)
+void CXmlGeneratedClass::ReadSimpleContent(const CParentElementInfo& info, const CXmlElement* element)
 {
-    const CParentElementInfo& info = *GetClassInfo();
     if (info.GetValueProperty() == -1 || info.GetValueType() == ItemType_none) {
         return;
     }
     ZrVariant value;
     if (info.GetStoreUnparsed()) {
-        value.SetString(NodeAccess::CopyText(*element));
+        NodeAccess::ReadString(*element, value);
     } else {
         NodeAccess::ParseText(*element, info.GetValueType(), CWhitespaceUtils::Rule_None, value);
     }
@@ -123,7 +122,7 @@ void CXmlGeneratedClass::ProcessAttributesFromXml(
             continue;
         }
         if (attribute->IsNilAttribute()) {
-            INillable* nillable = NodeAccess::FindNillable(*element, *this);
+            INillable* nillable = NodeAccess::FindNillable(*element, *this, GetClassInfo());
             if (nillable) {
                 nillable->SetNil(ParseNil(*attribute));
                 m_touched = true;

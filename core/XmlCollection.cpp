@@ -7,12 +7,22 @@
 #include "core/CoreMessages.h"
 #include "core/ItemPrefetch.h"
 
-#include <memory>
 #include <utility>
 
 namespace ZrXmlLib16 {
 
-CXmlCollection::CNode::CNode(CSmartPtr<CXmlObjectBase> item)
+/// Nodes on their way out. They go in the end, whatever the listeners do.
+struct CXmlCollection::DetachedNodes {
+    DetachedNodes() = default;
+    DetachedNodes(const DetachedNodes&) = delete;
+    DetachedNodes& operator=(const DetachedNodes&) = delete;
+    ~DetachedNodes() { DestroyNodes(first); }
+
+    NodeBlocks memory;
+    CNode* first = nullptr;
+};
+
+CXmlCollection::CNode::CNode(CSmartPtr<CXmlObjectBase> item) noexcept
     : m_item(std::move(item))
     , m_next(nullptr)
     , m_previous(nullptr)
@@ -47,15 +57,18 @@ CXmlCollection::CXmlCollection(const wchar_t* elementName, const wchar_t* namesp
 
 CXmlCollection::~CXmlCollection()
 {
-    DeleteNodes(m_first);
+    DestroyNodes(m_first);
 }
 
-void CXmlCollection::DeleteNodes(CNode* first) noexcept
+/// Their memory stays.
+void CXmlCollection::DestroyNodes(CNode* first) noexcept
 {
     while (first) {
         CNode* const node = std::exchange(first, first->m_next);
-        PrefetchItem(first);
-        delete node;
+        if (first) {
+            PrefetchItem(first->m_next);
+        }
+        node->~CNode();
     }
 }
 
@@ -108,11 +121,15 @@ CXmlCollection::CNode* CXmlCollection::Insert(CSmartPtr<CXmlObjectBase> inserted
     }
     CheckItem(*item);
     // The node holds the item before anybody is told, so that a listener's own reference cannot be the last one.
-    std::unique_ptr<CNode> created(new CNode(std::move(inserted)));
-    const unsigned long changes = m_changes;
-    FireOnCollectionAdd(item);
-    RequireUnchanged(changes);
-    CNode* node = created.release();
+    CNode* const node = m_nodes.Create(std::move(inserted));
+    try {
+        const unsigned long changes = m_changes;
+        FireOnCollectionAdd(item);
+        RequireUnchanged(changes);
+    } catch (...) {
+        m_nodes.Destroy(node);
+        throw;
+    }
     node->m_next = before;
     node->m_previous = before ? before->m_previous : m_last;
     (node->m_previous ? node->m_previous->m_next : m_first) = node;
@@ -166,7 +183,7 @@ void CXmlCollection::RemoveAt(CNode* node, int index)
     m_cachedNode = nullptr;
     // The reference is dropped last, so that listeners still see the item.
     const CSmartPtr<CXmlObjectBase> item = node->m_item;
-    delete node;
+    m_nodes.Destroy(node);
     FireOnCollectionRemoveComplete(index);
     FireOnCollectionChange();
 }
@@ -217,6 +234,7 @@ void CXmlCollection::Adopt(CXmlCollection& other) noexcept
     if (!other.m_first) {
         return;
     }
+    m_nodes.Adopt(other.m_nodes);
     other.m_first->m_previous = m_last;
     (m_last ? m_last->m_next : m_first) = other.m_first;
     m_last = other.m_last;
@@ -233,7 +251,9 @@ void CXmlCollection::Clear()
         return;
     }
     FireOnCollectionRemove(-1);
-    CNode* node = m_first;
+    DetachedNodes removed;
+    removed.memory.Adopt(m_nodes);
+    removed.first = m_first;
     m_first = nullptr;
     m_last = nullptr;
     m_count = 0;
@@ -241,7 +261,6 @@ void CXmlCollection::Clear()
     m_cachedNode = nullptr;
     FireOnCollectionRemoveComplete(-1);
     FireOnCollectionChange();
-    DeleteNodes(node);
 }
 
 } // namespace ZrXmlLib16

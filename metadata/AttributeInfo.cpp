@@ -8,6 +8,7 @@
 #include "ZrXmlLib16/XmlObjectHelper.h"
 #include "ZrXmlLib16/ZrValidationException.h"
 #include "core/TextArgument.h"
+#include "core/TextComparison.h"
 #include "metadata/MetadataMessages.h"
 
 namespace ZrXmlLib16Data {
@@ -28,13 +29,13 @@ CAttributeInfo::~CAttributeInfo() = default;
 
 bool CAttributeInfo::IsThisAttribute(const CSerializationContext& context, CXmlAttribute* attribute) const
 {
-    return attribute && attribute->GetLocalName() == m_attributeName
-        && (context.GetIgnoreNamespaces() || attribute->GetNamespaceURI() == m_namespace);
+    return attribute && SameText(attribute->GetLocalName(), m_attributeName)
+        && (context.GetIgnoreNamespaces() || SameText(attribute->GetNamespaceURI(), m_namespace));
 }
 
 bool CAttributeInfo::HasName(const CXmlAttribute& attribute) const
 {
-    return attribute.GetLocalName() == m_attributeName && attribute.GetNamespaceURI() == m_namespace;
+    return SameText(attribute.GetLocalName(), m_attributeName) && SameText(attribute.GetNamespaceURI(), m_namespace);
 }
 
 bool CAttributeInfo::TestNamespace(

@@ -48,7 +48,7 @@ bool CAttributeInfoEnum::AttributeFromXml(
         return false;
     }
     ZrVariant value;
-    value.SetI4(m_stringToEnum(NodeAccess::GetValue(*attribute).c_str()));
+    value.SetI4(NodeAccess::ConvertValue(*attribute, m_stringToEnum));
     InvokePropertySet(object, value, *attribute);
     return true;
 }

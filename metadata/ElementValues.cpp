@@ -127,11 +127,6 @@ bool CElementInfo::ReadNilAttributes(const CSerializationContext& context, const
     return isNil;
 }
 
-const std::wstring& CElementInfo::TextOrDefault(const CXmlElement& element) const
-{
-    return NodeAccess::HasText(element) ? NodeAccess::GetText(element) : m_defaultValue;
-}
-
 void CElementInfo::ElementFromXmlPrim(
     const CSerializationContext& context, CXmlGeneratedClass* object, CXmlElement** current)
 {
@@ -156,7 +151,8 @@ void CElementInfo::ElementFromXmlEnum(
     CXmlElement* element = *current;
     if (!ReadNilAttributes(context, *element)) {
         ZrVariant value;
-        value.SetI4(m_stringToEnum(TextOrDefault(*element).c_str()));
+        value.SetI4(NodeAccess::HasText(*element) ? NodeAccess::ConvertText(*element, m_stringToEnum)
+                                                  : m_stringToEnum(m_defaultValue.c_str()));
         InvokePropertySet(object, value, *element);
     }
     *current = element->GetNextSiblingElement();

@@ -43,13 +43,48 @@ struct DateTimeFields {
     bool hasZone = false;
 };
 
+wchar_t* WriteYear(wchar_t* at, int year)
+{
+    const std::uint32_t magnitude = static_cast<std::uint32_t>(year < 0 ? -year : year);
+    if (year < 0) {
+        *at++ = L'-';
+    }
+    return magnitude < 10000 ? WriteFixedDigits(at, magnitude, 4) : WriteNumber(at, magnitude);
+}
+
+wchar_t* WriteTwoDigits(wchar_t* at, wchar_t separator, std::uint32_t value)
+{
+    *at++ = separator;
+    return WriteFixedDigits(at, value, 2);
+}
+
+wchar_t* WriteZone(wchar_t* at, int zone)
+{
+    if (zone == 0) {
+        *at++ = L'Z';
+        return at;
+    }
+    const std::uint32_t minutes = static_cast<std::uint32_t>(zone < 0 ? -zone : zone);
+    at = WriteTwoDigits(at, zone < 0 ? L'-' : L'+', minutes / 60);
+    return WriteTwoDigits(at, L':', minutes % 60);
+}
+
+} // namespace
+
+const DateTimeKind& KindOf(CDateTime::DateType kind)
+{
+    if (kind < 0 || static_cast<std::size_t>(kind) >= std::size(KINDS)) {
+        throw CZrInvalidParamException(FormatString(ValueMessages::INVALID_DATE_TYPE, static_cast<int>(kind)));
+    }
+    return KINDS[kind];
+}
+
 /// Reads the text form of one kind. Each operation takes one part of the text and is false when the part is not there
 /// or impossible.
-class CDateTimeReader {
+class CDateTime::Reader {
 public:
-    CDateTimeReader(const wchar_t* text, std::size_t length, CDateTime::DateType type)
-        : m_text(text)
-        , m_type(type)
+    Reader(const wchar_t* text, std::size_t length, DateType type)
+        : m_type(type)
         , m_kind(KindOf(type))
         , m_scanner(text, length)
     {
@@ -62,6 +97,9 @@ public:
             && ReadZone(fields) && m_scanner.AtEnd();
         return complete && (fields.hour < 24 || MoveMidnight(fields));
     }
+
+    DateType GetDateType() const { return m_type; }
+    bool IsFractionTooLong() const { return m_isFractionTooLong; }
 
 private:
     /// A missing year is "-", a missing month between two other parts too.
@@ -108,10 +146,9 @@ private:
         if (m_scanner.Take(L'.')) {
             const std::size_t count = m_scanner.TakeFraction(fields.nanos);
             if (count > 9) {
-                throw CZrInvalidValueException(
-                    FormatString(ValueMessages::DATE_TIME_FRACTION_TOO_LONG, m_kind.name, m_text));
+                m_isFractionTooLong = true;
             }
-            if (count == 0) {
+            if (count == 0 || count > 9) {
                 return false;
             }
         }
@@ -156,47 +193,11 @@ private:
         return true;
     }
 
-    const wchar_t* m_text;
-    CDateTime::DateType m_type;
+    DateType m_type;
+    bool m_isFractionTooLong = false;
     const DateTimeKind& m_kind;
     CDigitScanner m_scanner;
 };
-
-wchar_t* WriteYear(wchar_t* at, int year)
-{
-    const std::uint32_t magnitude = static_cast<std::uint32_t>(year < 0 ? -year : year);
-    if (year < 0) {
-        *at++ = L'-';
-    }
-    return magnitude < 10000 ? WriteFixedDigits(at, magnitude, 4) : WriteNumber(at, magnitude);
-}
-
-wchar_t* WriteTwoDigits(wchar_t* at, wchar_t separator, std::uint32_t value)
-{
-    *at++ = separator;
-    return WriteFixedDigits(at, value, 2);
-}
-
-wchar_t* WriteZone(wchar_t* at, int zone)
-{
-    if (zone == 0) {
-        *at++ = L'Z';
-        return at;
-    }
-    const std::uint32_t minutes = static_cast<std::uint32_t>(zone < 0 ? -zone : zone);
-    at = WriteTwoDigits(at, zone < 0 ? L'-' : L'+', minutes / 60);
-    return WriteTwoDigits(at, L':', minutes % 60);
-}
-
-} // namespace
-
-const DateTimeKind& KindOf(CDateTime::DateType kind)
-{
-    if (kind < 0 || static_cast<std::size_t>(kind) >= std::size(KINDS)) {
-        throw CZrInvalidParamException(FormatString(ValueMessages::INVALID_DATE_TYPE, static_cast<int>(kind)));
-    }
-    return KINDS[kind];
-}
 
 void CDateTime::Parse(const wchar_t* text, unsigned long length, DateType kind)
 {
@@ -207,9 +208,26 @@ void CDateTime::Parse(const wchar_t* text, unsigned long length, DateType kind)
     if (length == 0) {
         throw CZrInvalidValueException(FormatString(ValueMessages::DATE_TIME_EMPTY, row.name));
     }
+    Reader reader(text, length, kind);
+    if (!Take(reader)) {
+        throw CZrInvalidValueException(reader.IsFractionTooLong()
+                ? FormatString(ValueMessages::DATE_TIME_FRACTION_TOO_LONG, row.name, text)
+                : FormatString(ValueMessages::DATE_TIME_EXPECTED, row.name, text, row.form));
+    }
+}
+
+/// Leaves the value alone when the text is not of that kind.
+bool CDateTime::TryParse(const wchar_t* text, unsigned long length, DateType kind)
+{
+    Reader reader(text, length, kind);
+    return Take(reader);
+}
+
+bool CDateTime::Take(Reader& reader)
+{
     DateTimeFields fields;
-    if (!CDateTimeReader(text, length, kind).Read(fields)) {
-        throw CZrInvalidValueException(FormatString(ValueMessages::DATE_TIME_EXPECTED, row.name, text, row.form));
+    if (!reader.Read(fields)) {
+        return false;
     }
     m_year = fields.year;
     m_nanos = fields.nanos;
@@ -220,7 +238,8 @@ void CDateTime::Parse(const wchar_t* text, unsigned long length, DateType kind)
     m_minute = static_cast<unsigned char>(fields.minute);
     m_second = static_cast<unsigned char>(fields.second);
     m_hasZone = fields.hasZone;
-    m_kind = kind;
+    m_kind = reader.GetDateType();
+    return true;
 }
 
 void CDateTime::ParseXSDDate(const wchar_t* text, DateType kind)

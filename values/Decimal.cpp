@@ -102,6 +102,14 @@ CDecimal CDecimal::FromDouble(double value)
 
 void CDecimal::ParseText(const wchar_t* text, unsigned long length)
 {
+    if (!TryParse(text, length)) {
+        throw CZrInvalidValueException(FormatString(ValueMessages::NOT_A_DECIMAL, text));
+    }
+}
+
+/// Leaves the value alone when the text is no decimal number.
+bool CDecimal::TryParse(const wchar_t* text, unsigned long length)
+{
     CDigitScanner scanner(text, length);
     const bool negative = scanner.TakeSign(true);
     const wchar_t* integerFirst = scanner.Position();
@@ -111,20 +119,19 @@ void CDecimal::ParseText(const wchar_t* text, unsigned long length)
     const wchar_t* fractionFirst = scanner.Position();
     const std::size_t fractionCount = scanner.SkipDigits();
     if (integerCount + fractionCount == 0 || !scanner.AtEnd()) {
-        throw CZrInvalidValueException(FormatString(ValueMessages::NOT_A_DECIMAL, text));
+        return false;
     }
     const wchar_t* fractionLast = scanner.Position();
     while (fractionLast != fractionFirst && fractionLast[-1] == L'0') {
         --fractionLast;
     }
     integerFirst = SkipZeros(integerFirst, integerLast);
-    std::string digits;
-    digits.reserve(static_cast<std::size_t>((integerLast - integerFirst) + (fractionLast - fractionFirst)));
-    AppendDigits(digits, integerFirst, integerLast);
-    AppendDigits(digits, fractionFirst, fractionLast);
+    std::string digits(static_cast<std::size_t>((integerLast - integerFirst) + (fractionLast - fractionFirst)), '0');
+    CopyDigits(fractionFirst, fractionLast, CopyDigits(integerFirst, integerLast, digits.data()));
     m_digits = std::move(digits);
     m_fractionDigits = static_cast<unsigned long>(fractionLast - fractionFirst);
     m_negative = negative && !m_digits.empty();
+    return true;
 }
 
 void CDecimal::Parse(const wchar_t* text)

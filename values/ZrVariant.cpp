@@ -138,11 +138,6 @@ ZrVariant::ZrVariant(ZrVariant&& other) noexcept
     MoveFrom(other);
 }
 
-ZrVariant::~ZrVariant()
-{
-    Clear();
-}
-
 ZrVariant& ZrVariant::operator=(const ZrVariant& other)
 {
     if (this != &other) {
@@ -204,12 +199,11 @@ void ZrVariant::MoveFrom(ZrVariant& other) noexcept
     other.Clear();
 }
 
+/// The variant owns a value before.
 void ZrVariant::DropValue()
 {
     // The variant is invalid before the value goes: the destructor of an object may come back to it.
-    const StorageClass storage = m_isBorrowed ? StorageClass::Scalar : StorageOf(m_type, m_nil);
-    m_isBorrowed = false;
-    m_nil = false;
+    const StorageClass storage = STORAGE_CLASSES[m_type];
     m_type = ItemType_none;
     WithClassMembers(storage, m_value, m_value, [](auto& member, auto&) { Destroy(member); });
     m_value.ui8 = 0;

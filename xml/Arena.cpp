@@ -31,7 +31,7 @@ void* Arena::AllocateFromNewChunk(std::size_t size)
 {
     const std::size_t usual = m_total == 0 ? m_expectedSize : m_total / 4;
     const std::size_t chunkSize = std::max({size, usual, SMALLEST_CHUNK});
-    m_chunks.push_back(std::unique_ptr<unsigned char[]>(new unsigned char[chunkSize]));
+    m_chunks.push_back(std::unique_ptr<unsigned char[]>(new unsigned char[chunkSize + SLACK]));
     unsigned char* const start = m_chunks.back().get();
     AdviseHugePages(start, chunkSize);
     m_total += chunkSize;

@@ -12,6 +12,9 @@ namespace ZrXmlLib16 {
 /// Memory that is handed out piece by piece and given back as a whole. Never destroys what lies in it.
 class Arena {
 public:
+    /// Octets behind every piece that can be read, though they mean nothing.
+    static constexpr std::size_t SLACK = 16;
+
     /// @param expectedSize how much will be needed, as far as that is known; it is taken in one piece.
     explicit Arena(std::size_t expectedSize) noexcept
         : m_expectedSize(expectedSize)

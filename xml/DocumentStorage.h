@@ -3,7 +3,6 @@
 #define XML_DOCUMENTSTORAGE_H
 
 #include "ZrXmlLib16/NodeText.h"
-#include "core/NillableMemory.h"
 #include "xml/Arena.h"
 #include "xml/ClassMemory.h"
 #include "xml/NameTable.h"
@@ -56,7 +55,6 @@ public:
     NodePool& GetAttributePool() noexcept { return m_attributes; }
     NameTable& GetNames() noexcept { return m_names; }
     ClassMemory& GetClassMemory() noexcept { return m_classes; }
-    CNillableMemory& GetNillables() noexcept { return m_nillables; }
     Arena& GetArena() noexcept { return m_arena; }
     /// For the text that is being read; keeps its capacity from one to the next.
     std::wstring& GetScratch() noexcept { return m_scratch; }
@@ -74,7 +72,6 @@ private:
 
     Arena m_arena;
     ClassMemory m_classes;
-    CNillableMemory m_nillables;
     NodePool m_elements;
     NodePool m_attributes;
     NameTable m_names;

@@ -12,7 +12,7 @@ namespace {
 
 bool KeepsText(const NodeText& text, CWhitespaceUtils::WhitespaceRule rule)
 {
-    return rule == CWhitespaceUtils::Rule_None || (rule == CWhitespaceUtils::Rule_Preserve && !text.Contains(L'\r'));
+    return rule == CWhitespaceUtils::Rule_None || (rule == CWhitespaceUtils::Rule_Preserve && !text.ContainsCR());
 }
 
 } // namespace
@@ -23,18 +23,29 @@ ClassMemory* NodeAccess::GetClassMemory(const CXmlElement& element)
     return storage ? &storage->GetClassMemory() : nullptr;
 }
 
-INillable* NodeAccess::FindNillable(const CXmlElement& element, CXmlGeneratedClass& object)
+INillable* NodeAccess::FindNillable(const CXmlElement& element, CXmlGeneratedClass& object, const void* classInfo)
 {
     DocumentStorage* const storage = element.GetStorage();
-    return storage ? storage->GetNillables().Find(object) : dynamic_cast<INillable*>(&object);
+    if (!storage) {
+        return dynamic_cast<INillable*>(&object);
+    }
+    char* const start = reinterpret_cast<char*>(&object);
+    ClassMemory::Entry& known = storage->GetClassMemory().Find(typeid(object), classInfo);
+    if (!known.knowsNillable) {
+        INillable* const nillable = dynamic_cast<INillable*>(&object);
+        known.knowsNillable = true;
+        known.isNillable = nillable != nullptr;
+        known.nillableOffset = nillable ? reinterpret_cast<char*>(nillable) - start : 0;
+    }
+    return known.isNillable ? reinterpret_cast<INillable*>(start + known.nillableOffset) : nullptr;
 }
 
 void NodeAccess::Parse(const NodeText& text, DocumentStorage* storage, ItemType type,
     CWhitespaceUtils::WhitespaceRule rule, ZrVariant& result)
 {
     if (type == ItemType_string && KeepsText(text, rule)) {
-        result.SetString(text.Copy());
-    } else {
+        text.ReadString(result);
+    } else if (!text.ReadPlain(type, result)) {
         result.FromString(text.Borrow(storage), type, rule);
     }
 }

@@ -20,7 +20,7 @@ public:
     /// Null for an element that was built by hand.
     static ClassMemory* GetClassMemory(const CXmlElement& element);
     /// The object as INillable, null when it is none.
-    static INillable* FindNillable(const CXmlElement& element, CXmlGeneratedClass& object);
+    static INillable* FindNillable(const CXmlElement& element, CXmlGeneratedClass& object, const void* classInfo);
 
     /// The attributes in document order; null ends them.
     static CXmlAttribute* GetFirstAttribute(const CXmlElement& element)
@@ -43,7 +43,17 @@ public:
     {
         return attribute.m_value.Borrow(attribute.GetStorage());
     }
+    /// What a function makes of the text or value.
+    static int ConvertText(const CXmlElement& element, int (*function)(const wchar_t* text))
+    {
+        return element.m_text.Convert(element.GetStorage(), function);
+    }
+    static int ConvertValue(const CXmlAttribute& attribute, int (*function)(const wchar_t* text))
+    {
+        return attribute.m_value.Convert(attribute.GetStorage(), function);
+    }
     static std::wstring CopyText(const CXmlElement& element) { return element.m_text.Copy(); }
+    static void ReadString(const CXmlElement& element, ZrVariant& value) { element.m_text.ReadString(value); }
     static std::wstring CopyAttribute(
         const CXmlElement& element, const std::wstring& localName, const std::wstring& namespaceUri)
     {

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ZrXmlLib16/NodeText.h"
 
+#include "ZrXmlLib16/ZrVariant.h"
+#include "lexical/PlainValue.h"
+#include "lexical/ShortText.h"
 #include "xml/DocumentStorage.h"
 #include "xml/Utf16Text.h"
 
@@ -10,6 +13,9 @@
 namespace ZrXmlLib16 {
 
 namespace {
+
+// The units lie in the arena.
+static_assert(Arena::SLACK >= PlainValue::OVERREAD);
 
 constexpr std::size_t SECOND_CAPACITY = 16;
 constexpr std::size_t LONGEST_UNITS = UINT32_MAX - 1;
@@ -91,13 +97,14 @@ void NodeText::AssignParsed(DocumentStorage& storage, const unsigned short* unit
     if (length == 0) {
         return;
     }
-    unsigned short* const room = MakeRoom(storage, length);
-    if (room) {
-        std::copy_n(units, length, room);
-        m_length = static_cast<std::uint32_t>(length);
-    } else {
+    if (!storage.KeepsTexts() || length > LONGEST_UNITS) {
         AssignUtf16(GetForms(&storage).text, units, length);
+        return;
     }
+    m_units = static_cast<unsigned short*>(storage.GetArena().Allocate(length * sizeof(*m_units), alignof(unsigned short)));
+    m_capacity = static_cast<std::uint32_t>(length);
+    m_length = m_capacity;
+    std::copy_n(units, length, m_units);
 }
 
 NodeForms& NodeText::GetForms(DocumentStorage* storage)
@@ -133,13 +140,33 @@ std::wstring NodeText::Copy() const
     return IsWide() ? m_forms->text : std::wstring(m_units, m_units + m_length);
 }
 
-bool NodeText::Contains(wchar_t character) const noexcept
+bool NodeText::ReadPlain(ItemType type, ZrVariant& value) const
+{
+    return !IsWide() && PlainValue::Read(m_units, m_length, type, value);
+}
+
+void NodeText::ReadString(ZrVariant& value) const
 {
     if (IsWide()) {
-        return m_forms->text.find(character) != std::wstring::npos;
+        value.SetString(m_forms->text);
+    } else {
+        PlainValue::ReadString(m_units, m_length, value);
     }
-    const unsigned short* const end = m_units + m_length;
-    return std::find(static_cast<const unsigned short*>(m_units), end, character) != end;
+}
+
+int NodeText::Convert(DocumentStorage* storage, int (*function)(const wchar_t* text)) const
+{
+    if (IsWide() || m_length == 0 || m_length > ShortText<wchar_t>::LONGEST) {
+        return function(Borrow(storage).c_str());
+    }
+    const ShortText<wchar_t> text(m_units, m_length);
+    return function(text.Get());
+}
+
+bool NodeText::ContainsCR() const noexcept
+{
+    return IsWide() ? m_forms->text.find(L'\r') != std::wstring::npos
+                    : ZrXmlLib16::ContainsCR(m_units, m_length);
 }
 
 void NodeText::Release() noexcept

@@ -80,17 +80,43 @@ inline wchar_t* WidenExcludingCR(wchar_t* output, const Utf16Unit* units, std::s
     return std::copy_if(units, end, output, [](Utf16Unit unit) { return unit != CARRIAGE_RETURN; });
 }
 
+/// The units of one word.
+template <class Word> Word LoadWord(const Utf16Unit* units) noexcept
+{
+    Word word = 0;
+    std::memcpy(&word, units, sizeof(word));
+    return word;
+}
+
+/// Nonzero when one of the units is a carriage return.
+template <class Word> Word FindCR(Word word) noexcept
+{
+    constexpr Word ONES = static_cast<Word>(0x0001000100010001u);
+    constexpr Word CARRIAGE_RETURNS = 13 * ONES;
+    const Word difference = word ^ CARRIAGE_RETURNS; // a unit is 0 where there is a carriage return
+    return (difference - ONES) & ~difference & (ONES << 15);
+}
+
 /// Copies the units of one word.
 /// @return nonzero when one of them is a carriage return.
 template <class Word> Word CopyWord(Utf16Unit* output, const Utf16Unit* units) noexcept
 {
-    constexpr Word ONES = static_cast<Word>(0x0001000100010001u);
-    constexpr Word CARRIAGE_RETURNS = 13 * ONES;
-    Word word = 0;
-    std::memcpy(&word, units, sizeof(word));
+    const Word word = LoadWord<Word>(units);
     std::memcpy(output, &word, sizeof(word));
-    const Word difference = word ^ CARRIAGE_RETURNS; // a unit is 0 where there is a carriage return
-    return (difference - ONES) & ~difference & (ONES << 15);
+    return FindCR(word);
+}
+
+inline bool ContainsCR(const Utf16Unit* units, std::size_t length) noexcept
+{
+    constexpr Utf16Unit CARRIAGE_RETURN = 13;
+    if (length < 4) {
+        return std::find(units, units + length, CARRIAGE_RETURN) != units + length;
+    }
+    std::uint64_t found = FindCR(LoadWord<std::uint64_t>(units + length - 4));
+    for (std::size_t position = 0; position + 4 < length; position += 4) {
+        found |= FindCR(LoadWord<std::uint64_t>(units + position));
+    }
+    return found != 0;
 }
 
 /// Copies the units, carriage returns left out. Short texts are the rule, and their lengths cannot be foretold: words

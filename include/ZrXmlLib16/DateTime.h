@@ -125,7 +125,11 @@ public:
 
 private:
     struct Instant;
+    friend class PlainValue;
     void Parse(const wchar_t* text, unsigned long length, DateType kind);
+    bool TryParse(const wchar_t* text, unsigned long length, DateType kind);
+    class Reader;
+    bool Take(Reader& reader);
     CDateTime WithReferenceFields() const;
     Instant LocalInstant() const;
     void SetLocalInstant(const Instant& instant);

@@ -65,7 +65,10 @@ public:
     bool operator>=(const CDecimal& other) const { return Compare(other) >= 0; }
 
 private:
+    friend class PlainValue;
+
     void ParseText(const wchar_t* text, unsigned long length);
+    bool TryParse(const wchar_t* text, unsigned long length);
 
     std::string m_digits; // integer part without leading zeros, then fraction without trailing zeros; empty is zero
     unsigned long m_fractionDigits;

@@ -3,6 +3,7 @@
 #define ZRXMLLIB16_NODETEXT_H
 
 #include "ZrXmlLib16/Export.h"
+#include "ZrXmlLib16/ItemType.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -13,6 +14,7 @@ namespace ZrXmlLib16 {
 
 class CXmlAttribute;
 class DocumentStorage;
+class ZrVariant;
 
 /// What a node shows to its callers by reference. Made when somebody asks for it, and then the only place of the text.
 struct NodeForms {
@@ -61,8 +63,15 @@ public:
     const std::wstring& Borrow(DocumentStorage* storage) const;
     /// The text in wide characters.
     std::wstring Copy() const;
-    /// Whether the character is in the text.
-    bool Contains(wchar_t character) const noexcept;
+    /// Stores the value that the text stands for.
+    /// @return false when the text is not in the plainest form of the type; the variant is then invalid.
+    bool ReadPlain(ItemType type, ZrVariant& value) const;
+    /// Stores the text.
+    void ReadString(ZrVariant& value) const;
+    /// Calls a function with the text, NUL-terminated.
+    int Convert(DocumentStorage* storage, int (*function)(const wchar_t* text)) const;
+    /// Whether a carriage return is in the text.
+    bool ContainsCR() const noexcept;
     /// Frees the forms, and leaves the text empty.
     void Release() noexcept;
 

@@ -30,7 +30,9 @@ public:
 
     private:
         friend class CXmlCollection;
-        explicit CNode(CSmartPtr<CXmlObjectBase> item);
+        friend class NodeBlocks;
+        explicit CNode(CSmartPtr<CXmlObjectBase> item) noexcept;
+        ~CNode() = default;
 
         CSmartPtr<CXmlObjectBase> m_item;
         CNode* m_next;
@@ -85,15 +87,41 @@ protected:
     CXmlCollection& operator=(const CXmlCollection&) = delete;
 
 private:
+    /// The memory of the nodes, in blocks that grow with the collection. Nodes stay where they are; the places of
+    /// removed ones are used again.
+    class NodeBlocks {
+    public:
+        NodeBlocks() = default;
+        NodeBlocks(const NodeBlocks&) = delete;
+        NodeBlocks& operator=(const NodeBlocks&) = delete;
+        ~NodeBlocks();
+
+        CNode* Create(CSmartPtr<CXmlObjectBase> item);
+        void Destroy(CNode* node) noexcept;
+        /// Takes over the blocks of another collection, which has none then.
+        void Adopt(NodeBlocks& other) noexcept;
+
+    private:
+        struct Block;
+        void AddBlock();
+
+        Block* m_newest = nullptr;
+        CNode* m_unused = nullptr; // the first of the newest block that was never used
+        CNode* m_end = nullptr;    // of that block
+        void* m_removed = nullptr; // places of removed nodes, linked through their first word
+    };
+
     CNode* Insert(CSmartPtr<CXmlObjectBase> item, CNode* before);
     void RemoveAt(CNode* node, int index);
-    static void DeleteNodes(CNode* first) noexcept;
+    struct DetachedNodes;
+    static void DestroyNodes(CNode* first) noexcept;
     void RequireUnchanged(unsigned long changes) const;
     CNode* RequireNode(const CXmlObjectBase* item) const;
     CXmlElement* ReadElements(CXmlElement* cursor, const CSerializationContext& context);
     CXmlElement* ReadInlineItems(CXmlElement* parent, CXmlElement* cursor, const CSerializationContext& context);
     CSmartPtr<CXmlObjectBase> RequireItem(CXmlElement* element);
 
+    NodeBlocks m_nodes;
     CNode* m_first;
     CNode* m_last;
     int m_count;

@@ -119,11 +119,11 @@ private:
         const CSerializationContext& context, bool isOptional) const;
     void WriteContent(CXmlWriter* writer, const CSerializationContext& context, bool isOptional) const;
     void WriteSimpleContent(CXmlWriter* writer) const;
-    CXmlElement* ReadContent(
-        CXmlElement* element, CXmlElement* cursor, const CSerializationContext& context, bool isOptional);
-    void ReadSimpleContent(const CXmlElement* element);
-    CXmlElement* ReadGroup(
-        CXmlElement* element, CXmlElement* cursor, const CSerializationContext& context, bool isOptional);
+    CXmlElement* ReadContent(const ZrXmlLib16Data::CParentElementInfo& info, CXmlElement* element, CXmlElement* cursor,
+        const CSerializationContext& context, bool isOptional);
+    void ReadSimpleContent(const ZrXmlLib16Data::CParentElementInfo& info, const CXmlElement* element);
+    CXmlElement* ReadGroup(const ZrXmlLib16Data::CParentElementInfo& info, CXmlElement* element, CXmlElement* cursor,
+        const CSerializationContext& context, bool isOptional);
     CXmlElement* FinishChoice(const CSerializationContext& context, CXmlElement* parent, CXmlElement* entry,
         CXmlElement* cursor, ZrXmlLib16Data::XmlElementType type, bool chosen, bool isOptional);
     bool ValidateAll(const CSerializationContext& context, CXmlElement* parent, const wchar_t* target,

@@ -12,6 +12,7 @@
 #include "ZrXmlLib16/SmartPtr.h"
 #include "ZrXmlLib16/WhitespaceUtils.h"
 
+#include <new>
 #include <string>
 
 namespace ZrXmlLib16 {
@@ -37,7 +38,7 @@ public:
     }
     /// Copies the value; shares an object or collection.
     ZrVariant(const ZrVariant& other);
-    virtual ~ZrVariant();
+    virtual ~ZrVariant() { Clear(); }
     ZrVariant& operator=(const ZrVariant& other);
 
     /// True when there is a type or the value is nil.
@@ -51,8 +52,13 @@ public:
     /// Drops the value; the variant is then invalid.
     void Clear()
     {
-        if (IsValid()) {
+        if (OwnsValue()) {
             DropValue();
+        } else {
+            m_isBorrowed = false;
+            m_nil = false;
+            m_type = ItemType_none;
+            m_value.ui8 = 0;
         }
     }
 
@@ -205,6 +211,17 @@ private:
     };
 
     /// Clears and sets the type; the value is zero.
+    friend class PlainValue;
+
+    /// Whether the value has a destructor.
+    bool OwnsValue() const
+    {
+        constexpr unsigned long OWNING_TYPES = 1UL << ItemType_hexBinary | 1UL << ItemType_base64Binary
+            | 1UL << ItemType_duration | 1UL << ItemType_yearMonth | 1UL << ItemType_monthDay | 1UL << ItemType_date
+            | 1UL << ItemType_datetime | 1UL << ItemType_time | 1UL << ItemType_string | 1UL << ItemType_decimal
+            | 1UL << ItemType_integer | 1UL << ItemType_object | 1UL << ItemType_collection;
+        return (OWNING_TYPES >> m_type & 1) != 0 && !m_isBorrowed && !m_nil;
+    }
     Value& Restart(ItemType type)
     {
         Clear();
@@ -215,6 +232,13 @@ private:
     void Borrow(const std::wstring& value) noexcept;
     void CopyFrom(const ZrVariant& other);
     void MoveFrom(ZrVariant& other) noexcept;
+    template <class T, class... Arguments> T& Begin(ItemType type, T Value::*member, const Arguments&... arguments)
+    {
+        Clear();
+        T* const value = new (&(m_value.*member)) T(arguments...);
+        m_type = type;
+        return *value;
+    }
     template <class T> void Store(ItemType type, T Value::*member, T value);
     template <class T> const T& Read(ItemType type, T Value::*member) const;
 

@@ -172,7 +172,6 @@ private:
     bool WriteNilElement(ZrXmlLib16::CXmlWriter* writer) const;
     bool ReadNilAttributes(
         const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlElement& element) const;
-    const std::wstring& TextOrDefault(const ZrXmlLib16::CXmlElement& element) const;
 
     std::wstring m_elementName;
     std::wstring m_namespace;

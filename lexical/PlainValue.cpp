@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "lexical/PlainValue.h"
+
+#include "ZrXmlLib16/ZrVariant.h"
+#include "lexical/ShortText.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstring>
+#include <limits>
+#include <string_view>
+
+namespace ZrXmlLib16 {
+
+namespace {
+
+static_assert(PlainValue::OVERREAD >= ShortText<wchar_t>::OVERREAD);
+
+bool Equals(const unsigned short* units, std::size_t length, std::string_view text)
+{
+    return length == text.length() && std::equal(units, units + length, text.begin());
+}
+
+} // namespace
+
+template <class T, class Number>
+bool PlainValue::ReadInteger(
+    const unsigned short* units, std::size_t length, ZrVariant& value, void (ZrVariant::*store)(Number))
+{
+    constexpr std::size_t MOST_DIGITS = 18; // of any value that cannot overflow
+    const bool negative = std::numeric_limits<T>::is_signed && *units == '-';
+    units += negative;
+    length -= negative;
+    if (length == 0 || length > MOST_DIGITS) {
+        return false;
+    }
+    long long number = 0;
+    for (std::size_t i = 0; i < length; ++i) {
+        const unsigned digit = units[i] - unsigned{'0'};
+        if (digit > 9) {
+            return false;
+        }
+        number = number * 10 + static_cast<int>(digit);
+    }
+    number = negative ? -number : number;
+    const T result = static_cast<T>(number);
+    if (static_cast<long long>(result) != number) {
+        return false;
+    }
+    (value.*store)(static_cast<Number>(result));
+    return true;
+}
+
+bool PlainValue::ReadReal(const unsigned short* units, std::size_t length, ZrVariant& value)
+{
+    const bool negative = *units == '-';
+    const bool isAscii = std::all_of(units, units + length, [](unsigned short unit) { return unit < 0x80; });
+    const unsigned short first = units[negative];
+    if (!isAscii || first < '0' || first > '9') {
+        return false;
+    }
+    const ShortText<char> text(units, length);
+    const char* const end = text.Get() + length;
+    double number = 0;
+    const std::from_chars_result result = std::from_chars(text.Get(), end, number);
+    if (result.ec != std::errc() || result.ptr != end) {
+        return false;
+    }
+    value.SetR8(number);
+    return true;
+}
+
+bool PlainValue::ReadBoolean(const unsigned short* units, std::size_t length, ZrVariant& value)
+{
+    const bool isTrue = Equals(units, length, "true") || Equals(units, length, "1");
+    if (!isTrue && !Equals(units, length, "false") && !Equals(units, length, "0")) {
+        return false;
+    }
+    value.SetBoolean(isTrue);
+    return true;
+}
+
+bool PlainValue::ReadDecimal(const unsigned short* units, std::size_t length, ZrVariant& value)
+{
+    const ShortText<wchar_t> text(units, length);
+    if (value.Begin(ItemType_decimal, &ZrVariant::Value::decimal).TryParse(text.Get(), length)) {
+        return true;
+    }
+    value.Clear();
+    return false;
+}
+
+bool PlainValue::ReadDateTime(
+    const unsigned short* units, std::size_t length, ItemType type, int dateType, ZrVariant& value)
+{
+    const ShortText<wchar_t> text(units, length);
+    CDateTime& dateTime = value.Begin(type, &ZrVariant::Value::dateTime);
+    if (dateTime.TryParse(text.Get(), length, static_cast<CDateTime::DateType>(dateType))) {
+        return true;
+    }
+    value.Clear();
+    return false;
+}
+
+void PlainValue::ReadString(const unsigned short* units, std::size_t length, ZrVariant& value)
+{
+    value.Begin(ItemType_string, &ZrVariant::Value::string, units, units + length);
+}
+
+bool PlainValue::Read(const unsigned short* units, std::size_t length, ItemType type, ZrVariant& value)
+{
+    if (length == 0 || length > ShortText<wchar_t>::LONGEST) {
+        return false;
+    }
+    switch (type) {
+    case ItemType_i1:
+        return ReadInteger<signed char>(units, length, value, &ZrVariant::SetI1);
+    case ItemType_i2:
+        return ReadInteger<short>(units, length, value, &ZrVariant::SetI2);
+    case ItemType_i4:
+        return ReadInteger<long>(units, length, value, &ZrVariant::SetI4);
+    case ItemType_i8:
+        return ReadInteger<long long>(units, length, value, &ZrVariant::SetI8);
+    case ItemType_ui1:
+        return ReadInteger<unsigned char>(units, length, value, &ZrVariant::SetUI1);
+    case ItemType_ui2:
+        return ReadInteger<unsigned short>(units, length, value, &ZrVariant::SetUI2);
+    case ItemType_ui4:
+        return ReadInteger<unsigned long>(units, length, value, &ZrVariant::SetUI4);
+    case ItemType_ui8:
+        return ReadInteger<unsigned long long>(units, length, value, &ZrVariant::SetUI8);
+    case ItemType_r8:
+        return ReadReal(units, length, value);
+    case ItemType_boolean:
+        return ReadBoolean(units, length, value);
+    case ItemType_decimal:
+        return ReadDecimal(units, length, value);
+    case ItemType_date:
+        return ReadDateTime(units, length, type, CDateTime::dt_date, value);
+    case ItemType_datetime:
+        return ReadDateTime(units, length, type, CDateTime::dt_dateTime, value);
+    case ItemType_time:
+        return ReadDateTime(units, length, type, CDateTime::dt_time, value);
+    case ItemType_yearMonth:
+        return ReadDateTime(units, length, type, CDateTime::dt_gYearMonth, value);
+    case ItemType_monthDay:
+        return ReadDateTime(units, length, type, CDateTime::dt_gMonthDay, value);
+    default:
+        return false;
+    }
+}
+
+} // namespace ZrXmlLib16
