@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <memory>
 #include <new>
 #include <utility>
 
@@ -28,28 +29,35 @@ bool IsInfrastructureName(const std::wstring& localName)
         || localName == L"noNamespaceSchemaLocation";
 }
 
-std::wstring Widen(const Utf16Unit* units, std::size_t length)
+const NamespaceText& NoNamespace()
 {
-    std::wstring text;
-    AssignUtf16(text, units, length);
-    return text;
+    static const NamespaceText none{std::wstring()};
+    return none;
 }
 
 } // namespace
 
+NamespaceText::NamespaceText(std::wstring namespaceUri)
+    : uri(std::move(namespaceUri))
+    , isInfrastructure(IsInfrastructureNamespace(uri))
+{
+}
+
 // kept: required behaviour. The namespace of declarations counts like the instance namespace, for "nil" too.
-XmlName::XmlName(const std::wstring& namespaceOfName, std::wstring localPart, DocumentStorage* nameStorage)
-    : namespaceUri(namespaceOfName)
+XmlName::XmlName(const NamespaceText& text, std::wstring localPart, DocumentStorage* nameStorage)
+    : namespaceUri(text.uri)
     , localName(std::move(localPart))
-    , isNamespaceAttribute(IsInfrastructureNamespace(namespaceUri) && IsInfrastructureName(localName))
-    , isNilAttribute(IsInfrastructureNamespace(namespaceUri) && localName == L"nil")
+    , isNamespaceAttribute(text.isInfrastructure && IsInfrastructureName(localName))
+    , isNilAttribute(text.isInfrastructure && localName == L"nil")
     , isLong(namespaceUri.size() + localName.size() > ORDINARY_LENGTH)
     , storage(nameStorage)
 {
 }
 
-NameTable::Entry::Entry(const Key& key, XmlName entryName, Entry* olderEntry)
-    : name(std::move(entryName))
+NameTable::Entry::Entry(const Key& key, const NamespaceText& namespaceText, std::wstring localName,
+    DocumentStorage& storage, Entry* olderEntry)
+    : text(namespaceText)
+    , name(namespaceText, std::move(localName), &storage)
     , keySize(key.size)
     , hash(key.hash)
     , form(key.form)
@@ -67,7 +75,11 @@ bool NameTable::Entry::Is(const Key& key) const noexcept
 NameTable::~NameTable()
 {
     while (m_newest) {
-        std::exchange(m_newest, m_newest->older)->~Entry();
+        Entry* const entry = std::exchange(m_newest, m_newest->older);
+        if (entry->form == KeyForm::Namespace) {
+            delete &entry->text;
+        }
+        entry->~Entry();
     }
 }
 
@@ -78,7 +90,7 @@ const XmlName& NameTable::Search(const Utf16Unit* qualifiedName)
     const Key key = MakeKey(qualifiedName, (length + 1) * sizeof(Utf16Unit), KeyForm::Parser);
     Entry* entry = Find(key);
     if (!entry) {
-        entry = &Insert(key, SplitName(qualifiedName, length));
+        entry = &InsertParsed(key, qualifiedName, length);
     }
     if (m_previous) {
         m_previous->followers[1] = std::exchange(m_previous->followers[0], entry);
@@ -87,14 +99,16 @@ const XmlName& NameTable::Search(const Utf16Unit* qualifiedName)
     return entry->name;
 }
 
-XmlName NameTable::SplitName(const Utf16Unit* qualifiedName, std::size_t length)
+NameTable::Entry& NameTable::InsertParsed(const Key& key, const Utf16Unit* qualifiedName, std::size_t length)
 {
     const Utf16Unit* const end = qualifiedName + length;
     const Utf16Unit* const separator = std::find(qualifiedName, end, Utf16Unit{L'|'});
-    const Utf16Unit* const localName = separator == end ? qualifiedName : separator + 1;
-    const std::size_t namespaceLength = separator == end ? 0 : static_cast<std::size_t>(separator - qualifiedName);
-    return XmlName(ShareNamespace(Widen(qualifiedName, namespaceLength)),
-        Widen(localName, static_cast<std::size_t>(end - localName)), &m_owner);
+    const bool hasNamespace = separator != end;
+    const NamespaceText& text =
+        hasNamespace ? ShareNamespace(qualifiedName, static_cast<std::size_t>(separator - qualifiedName)) : NoNamespace();
+    Entry& entry = Insert(key, text, std::wstring(hasNamespace ? separator + 1 : qualifiedName, end));
+    m_newestParsed = &entry;
+    return entry;
 }
 
 const XmlName& NameTable::Intern(const std::wstring& namespaceUri, const std::wstring& localName)
@@ -103,19 +117,32 @@ const XmlName& NameTable::Intern(const std::wstring& namespaceUri, const std::ws
     m_wideKey.append(namespaceUri).append(localName);
     const Key key = MakeKey(m_wideKey.data(), m_wideKey.size() * sizeof(wchar_t), KeyForm::Wide);
     const Entry* const found = Find(key);
-    return found ? found->name : Insert(key, XmlName(ShareNamespace(namespaceUri), localName, &m_owner)).name;
+    return found ? found->name : Insert(key, ShareNamespace(namespaceUri), localName).name;
+}
+
+/// New names mostly are of the namespace of the new name before.
+const NamespaceText& NameTable::ShareNamespace(const Utf16Unit* units, std::size_t length)
+{
+    if (m_newestParsed && m_newestParsed->text.uri.size() == length
+        && std::memcmp(m_newestParsed->KeyBytes(), units, length * sizeof(Utf16Unit)) == 0) {
+        return m_newestParsed->text;
+    }
+    return ShareNamespace(std::wstring(units, units + length));
 }
 
 /// The one text for a namespace, which lives as long as the table.
-const std::wstring& NameTable::ShareNamespace(const std::wstring& namespaceUri)
+const NamespaceText& NameTable::ShareNamespace(const std::wstring& namespaceUri)
 {
-    static const std::wstring none;
     if (namespaceUri.empty()) {
-        return none;
+        return NoNamespace();
     }
     const Key key = MakeKey(namespaceUri.data(), namespaceUri.size() * sizeof(wchar_t), KeyForm::Namespace);
-    const Entry* const found = Find(key);
-    return found ? found->name.localName : Insert(key, XmlName(none, namespaceUri, &m_owner)).name.localName;
+    if (const Entry* const found = Find(key)) {
+        return found->text;
+    }
+    auto text = std::make_unique<const NamespaceText>(namespaceUri);
+    Insert(key, *text, std::wstring());
+    return *text.release();
 }
 
 NameTable::Key NameTable::MakeKey(const void* bytes, std::size_t size, KeyForm form) noexcept
@@ -151,13 +178,14 @@ NameTable::Entry* NameTable::Find(const Key& key) const noexcept
     }
 }
 
-NameTable::Entry& NameTable::Insert(const Key& key, XmlName name)
+NameTable::Entry& NameTable::Insert(const Key& key, const NamespaceText& text, std::wstring localName)
 {
     if (2 * (m_entryCount + 1) > m_slotCount) {
         Grow();
     }
-    void* const memory = m_owner.GetArena().Allocate(sizeof(Entry) + std::max(key.size, Entry::BLOCK), alignof(Entry));
-    m_newest = new (memory) Entry(key, std::move(name), m_newest);
+    void* const memory =
+        m_owner.GetArena().Allocate(sizeof(Entry) + std::max(key.size, Entry::BLOCK), alignof(Entry));
+    m_newest = new (memory) Entry(key, text, std::move(localName), m_owner, m_newest);
     ++m_entryCount;
     return *(FreeSlot(key.hash) = m_newest);
 }

@@ -11,11 +11,19 @@ namespace ZrXmlLib16 {
 
 class DocumentStorage;
 
+/// A namespace, which many names share.
+struct NamespaceText {
+    explicit NamespaceText(std::wstring namespaceUri);
+
+    const std::wstring uri;
+    const bool isInfrastructure; ///< the instance namespace or that of declarations
+};
+
 /// The name of an element or attribute, with the questions that readers ask about names answered once.
 struct XmlName {
-    /// @param namespaceOfName not owned.
+    /// @param text not owned.
     /// @param nameStorage where the name is shared; null for a name that belongs to a single node.
-    XmlName(const std::wstring& namespaceOfName, std::wstring localPart, DocumentStorage* nameStorage);
+    XmlName(const NamespaceText& text, std::wstring localPart, DocumentStorage* nameStorage);
 
     const std::wstring& namespaceUri;
     const std::wstring localName;
@@ -25,15 +33,11 @@ struct XmlName {
     DocumentStorage* storage;
 };
 
-struct OwnNamespace {
-    const std::wstring text;
-};
-
 /// The name of a node that was built by hand.
-struct OwnXmlName : private OwnNamespace, public XmlName {
+struct OwnXmlName : private NamespaceText, public XmlName {
     OwnXmlName(const std::wstring& namespaceOfName, const std::wstring& localPart)
-        : OwnNamespace{namespaceOfName}
-        , XmlName(text, localPart, nullptr)
+        : NamespaceText(namespaceOfName)
+        , XmlName(static_cast<const NamespaceText&>(*this), localPart, nullptr)
     {
     }
 };
@@ -73,7 +77,7 @@ public:
     const XmlName& Intern(const std::wstring& namespaceUri, const std::wstring& localName);
 
 private:
-    /// What the key of an entry is: what the parser delivered, or wide text, for a name or for its namespace alone.
+    /// What the key of an entry is: a name as the parser delivered it, one in wide text, or a namespace in wide text.
     enum class KeyForm : unsigned char { Parser, Wide, Namespace };
     struct Key {
         const char* bytes;
@@ -85,13 +89,15 @@ private:
     struct Entry {
         static constexpr std::size_t BLOCK = 16;
 
-        Entry(const Key& key, XmlName entryName, Entry* olderEntry);
+        Entry(const Key& key, const NamespaceText& text, std::wstring localName, DocumentStorage& storage,
+            Entry* olderEntry);
 
         bool Is(const Key& key) const noexcept;
         bool Is(const Utf16Unit* qualifiedName) const noexcept;
         static bool SameStart(const char* own, const char* other, std::size_t size) noexcept;
         const char* KeyBytes() const noexcept { return reinterpret_cast<const char*>(this + 1); }
 
+        const NamespaceText& text; // which an entry for a namespace owns
         const XmlName name;
         const std::size_t keySize; // of the parser's form: with the final NUL
         const std::uint64_t hash;
@@ -101,11 +107,12 @@ private:
     };
 
     [[gnu::noinline]] const XmlName& Search(const Utf16Unit* qualifiedName);
-    XmlName SplitName(const Utf16Unit* qualifiedName, std::size_t length);
-    const std::wstring& ShareNamespace(const std::wstring& namespaceUri);
+    Entry& InsertParsed(const Key& key, const Utf16Unit* qualifiedName, std::size_t length);
+    const NamespaceText& ShareNamespace(const Utf16Unit* units, std::size_t length);
+    const NamespaceText& ShareNamespace(const std::wstring& namespaceUri);
     static Key MakeKey(const void* bytes, std::size_t size, KeyForm form) noexcept;
     Entry* Find(const Key& key) const noexcept;
-    Entry& Insert(const Key& key, XmlName name);
+    Entry& Insert(const Key& key, const NamespaceText& text, std::wstring localName);
     void Grow();
     Entry*& FreeSlot(std::uint64_t hash) noexcept;
 
@@ -115,6 +122,7 @@ private:
     Entry** m_slots = nullptr;   // open addressing, in the arena; at most half of them in use, null marks a free one
     std::size_t m_slotCount = 0; // a power of two
     std::size_t m_entryCount = 0;
+    const Entry* m_newestParsed = nullptr;
     std::wstring m_wideKey; // reused
 };
 
