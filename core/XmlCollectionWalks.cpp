@@ -7,6 +7,7 @@
 #include "ZrXmlLib16/ZrInvalidStateException.h"
 #include "ZrXmlLib16/ZrValidationException.h"
 #include "core/CoreMessages.h"
+#include "xml/NodeAccess.h"
 
 #include <utility>
 
@@ -38,11 +39,17 @@ CXmlElement* CXmlCollection::FromXml_Int(
 
 CXmlElement* CXmlCollection::ReadElements(CXmlElement* cursor, const CSerializationContext& context)
 {
-    while (cursor && HasElementName(cursor->GetLocalName())
-        && DoesElementNameMatch(context, cursor, cursor->GetLocalName(), Namespace())) {
+    const CXmlElement* previous = nullptr;
+    const auto isItem = [&] {
+        return (previous && NodeAccess::SharesName(*cursor, *previous))
+            || (HasElementName(cursor->GetLocalName())
+                && DoesElementNameMatch(context, cursor, cursor->GetLocalName(), Namespace()));
+    };
+    while (cursor && isItem()) {
         CSmartPtr<CXmlObjectBase> item = RequireItem(cursor);
         CXmlObjectBase::FromXml_Int(item, cursor, cursor->GetFirstElement(), context);
         Insert(std::move(item), nullptr);
+        previous = cursor;
         cursor = cursor->GetNextSiblingElement();
     }
     return cursor;

@@ -12,6 +12,7 @@
 #include "core/CoreMessages.h"
 #include "core/EntryPointFiles.h"
 #include "core/VersionCheck.h"
+#include "xml/NodeAccess.h"
 
 namespace ZrXmlLib16 {
 
@@ -72,6 +73,7 @@ void CXmlObjectBase::ReadElement(const CXmlElement* element, const CSerializatio
     // The walk hands out pointers into the tree that generated code may keep moving along; it never writes through
     // them.
     CXmlElement* root = const_cast<CXmlElement*>(element);
+    NodeAccess::BeginWalk(*root);
     if (FromXml_Int(root, root->GetFirstElement(), context, false) == root) {
         // Nothing but an untyped element refuses the whole of what it is given.
         if (const CElement* untyped = dynamic_cast<const CElement*>(this)) {

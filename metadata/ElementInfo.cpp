@@ -2,6 +2,7 @@
 #include "ZrXmlLib16Data/ElementInfo.h"
 
 #include "ZrXmlLib16/Formatting.h"
+#include "ZrXmlLib16/SerializationContext.h"
 #include "ZrXmlLib16/XmlElement.h"
 #include "ZrXmlLib16/XmlGeneratedClass.h"
 #include "ZrXmlLib16/XmlObjectHelper.h"
@@ -11,6 +12,7 @@
 #include "lexical/FacetCheck.h"
 #include "metadata/MetadataMessages.h"
 #include "metadata/NamespaceRule.h"
+#include "xml/NodeAccess.h"
 
 #include <cwchar>
 
@@ -79,7 +81,16 @@ void CElementInfo::PseudoChildAttributeToXml(const CSerializationContext&, const
 
 bool CElementInfo::IsThisElement(const CSerializationContext& context, const CXmlElement* element) const
 {
-    return CXmlObjectHelper::DoesElementNameMatch(context, element, m_elementName, m_namespace);
+    if (!element || NodeAccess::IsKnownAs(*element, this)) {
+        return element != nullptr;
+    }
+    if (!CXmlObjectHelper::DoesElementNameMatch(context, element, m_elementName, m_namespace)) {
+        return false;
+    }
+    if (!context.GetIgnoreNamespaces() && context.GetSchemaType() != SchemaType_DTD) {
+        NodeAccess::KnowAs(*element, this);
+    }
+    return true;
 }
 
 void CElementInfo::CheckRestriction(const ZrVariant& value) const

@@ -58,6 +58,9 @@ public:
     Arena& GetArena() noexcept { return m_arena; }
     /// For the text that is being read; keeps its capacity from one to the next.
     std::wstring& GetScratch() noexcept { return m_scratch; }
+    /// A number for every walk over the document: what lives as long as a walk is known by its address and that number.
+    unsigned long GetWalk() const noexcept { return m_walk; }
+    void BeginWalk() noexcept { ++m_walk; }
     bool KeepsTexts() const noexcept { return m_hasWholeTree; }
 
     /// The forms that go with the storage.
@@ -78,6 +81,7 @@ private:
     NodeForms* m_forms = nullptr;
     std::wstring m_scratch;
     std::size_t m_liveNodes = 0;
+    unsigned long m_walk = 0;
     bool m_hasWholeTree = true;
     bool m_abandoned = false;
 };

@@ -31,6 +31,9 @@ struct XmlName {
     bool isNilAttribute;
     bool isLong; ///< more than 128 characters
     DocumentStorage* storage;
+    // The record that was found to have this name and namespace last, in which walk of the document.
+    mutable const void* matchingRecord = nullptr;
+    mutable unsigned long matchingWalk = 0;
 };
 
 /// The name of a node that was built by hand.

@@ -23,6 +23,28 @@ ClassMemory* NodeAccess::GetClassMemory(const CXmlElement& element)
     return storage ? &storage->GetClassMemory() : nullptr;
 }
 
+void NodeAccess::BeginWalk(const CXmlElement& element)
+{
+    if (DocumentStorage* const storage = element.GetStorage()) {
+        storage->BeginWalk();
+    }
+}
+
+bool NodeAccess::IsKnownAs(const CXmlElement& element, const void* record)
+{
+    const XmlName& name = *element.m_name;
+    return name.matchingRecord == record && name.matchingWalk == name.storage->GetWalk();
+}
+
+void NodeAccess::KnowAs(const CXmlElement& element, const void* record)
+{
+    const XmlName& name = *element.m_name;
+    if (name.storage) {
+        name.matchingRecord = record;
+        name.matchingWalk = name.storage->GetWalk();
+    }
+}
+
 INillable* NodeAccess::FindNillable(const CXmlElement& element, CXmlGeneratedClass& object, const void* classInfo)
 {
     DocumentStorage* const storage = element.GetStorage();

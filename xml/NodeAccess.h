@@ -22,6 +22,18 @@ public:
     /// The object as INillable, null when it is none.
     static INillable* FindNillable(const CXmlElement& element, CXmlGeneratedClass& object, const void* classInfo);
 
+    /// Says that another walk over the element's document begins, with records of its own.
+    static void BeginWalk(const CXmlElement& element);
+    /// Whether the record is known to have the name and namespace of the element.
+    static bool IsKnownAs(const CXmlElement& element, const void* record);
+    /// Remembers that it has, for this walk.
+    static void KnowAs(const CXmlElement& element, const void* record);
+    /// Whether the names are known to be the same; they may be without.
+    static bool SharesName(const CXmlElement& left, const CXmlElement& right)
+    {
+        return left.m_name.get() == right.m_name.get();
+    }
+
     /// The attributes in document order; null ends them.
     static CXmlAttribute* GetFirstAttribute(const CXmlElement& element)
     {
