@@ -73,16 +73,50 @@ DecodedSequence DecodeSequence(const unsigned char* data, unsigned long availabl
     return lead >= 0xF0 && lead <= 0xF4 ? DecodeFour(data, available) : ILL_FORMED;
 }
 
+/// Widens the octets of one run.
+template <class Unit> void WidenRun(const unsigned char* data, Unit* output)
+{
+    for (unsigned long i = 0; i < ASCII_RUN; ++i) {
+        output[i] = static_cast<Unit>(data[i]);
+    }
+}
+
+/// Decodes what most short texts are, with few branches.
+/// @return false when it met anything else; the output then is undefined.
+template <class Unit> bool DecodeAscii(const unsigned char* data, unsigned long length, Unit* output)
+{
+    if (length < ASCII_RUN) {
+        unsigned char bits = 0;
+        for (unsigned long at = 0; at < length; ++at) {
+            bits = static_cast<unsigned char>(bits | data[at]);
+            output[at] = static_cast<Unit>(data[at]);
+        }
+        return bits < 0x80;
+    }
+    for (unsigned long at = 0; at + ASCII_RUN < length; at += ASCII_RUN) {
+        if (!IsAsciiRun(data + at)) {
+            return false;
+        }
+        WidenRun(data + at, output + at);
+    }
+    WidenRun(data + length - ASCII_RUN, output + length - ASCII_RUN);
+    return IsAsciiRun(data + length - ASCII_RUN);
+}
+
 // No sequence has more units than octets.
 template <class Unit> Unit* Decode(const unsigned char* data, unsigned long length, Unit* output)
 {
+    constexpr unsigned long SHORT = 128;
+    if (length <= SHORT && DecodeAscii(data, length, output)) {
+        return output + length;
+    }
     unsigned long at = 0;
     bool inIllFormedRun = false;
     while (at < length) {
         while (length - at >= ASCII_RUN && IsAsciiRun(data + at)) {
-            for (unsigned long i = 0; i < ASCII_RUN; ++i) {
-                *output++ = static_cast<Unit>(data[at++]);
-            }
+            WidenRun(data + at, output);
+            at += ASCII_RUN;
+            output += ASCII_RUN;
             inIllFormedRun = false;
         }
         if (at == length) {

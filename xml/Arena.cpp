@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t SMALLEST_CHUNK = 4096;
 constexpr std::size_t HUGE_PAGE = std::size_t(2) << 20;
-constexpr std::size_t LEAST_FOR_HUGE_PAGES = 8 * HUGE_PAGE;
+constexpr std::size_t LEAST_FOR_HUGE_PAGES = 2 * HUGE_PAGE;
 
 /// Asks for huge pages where they pay: the memory of a large document is touched once, and most of that costs page
 /// faults. A refusal changes nothing.

@@ -54,6 +54,8 @@ void NodeText::AppendUnits(DocumentStorage* storage, const unsigned short* units
             storage->GetArena().Allocate(count * sizeof(*m_units), alignof(unsigned short)));
         m_capacity = static_cast<std::uint32_t>(count);
         m_length = static_cast<std::uint32_t>(CopyExcludingCR(m_units, units, count) - m_units);
+    } else if (!IsWide() && count <= m_capacity - m_length) {
+        m_length = static_cast<std::uint32_t>(CopyExcludingCR(m_units + m_length, units, count) - m_units);
     } else {
         AppendFurtherUnits(storage, units, count);
     }
