@@ -2,6 +2,7 @@
 #include "lexical/PlainValue.h"
 
 #include "ZrXmlLib16/ZrVariant.h"
+#include "core/HugePages.h"
 #include "lexical/ShortText.h"
 
 #include <algorithm>
@@ -23,8 +24,7 @@ bool Equals(const unsigned short* units, std::size_t length, std::string_view te
 
 } // namespace
 
-template <class T, class Number>
-bool PlainValue::ReadInteger(
+template <class T, class Number> bool PlainValue::ReadInteger(
     const unsigned short* units, std::size_t length, ZrVariant& value, void (ZrVariant::*store)(Number))
 {
     constexpr std::size_t MOST_DIGITS = 18; // of any value that cannot overflow
@@ -104,7 +104,15 @@ bool PlainValue::ReadDateTime(
 
 void PlainValue::ReadString(const unsigned short* units, std::size_t length, ZrVariant& value)
 {
-    value.Begin(ItemType_string, &ZrVariant::Value::string, units, units + length);
+    if (length < LEAST_FOR_HUGE_PAGES / sizeof(wchar_t)) {
+        value.Begin(ItemType_string, &ZrVariant::Value::string, units, units + length);
+        return;
+    }
+    std::wstring& text = value.Begin(ItemType_string, &ZrVariant::Value::string);
+    text.reserve(length);
+    AdviseHugePages(text.data(), length * sizeof(wchar_t));
+    text.resize(length);
+    std::copy_n(units, length, text.begin());
 }
 
 bool PlainValue::Read(const unsigned short* units, std::size_t length, ItemType type, ZrVariant& value)

@@ -25,8 +25,7 @@ public:
     static void ReadString(const unsigned short* units, std::size_t length, ZrVariant& value);
 
 private:
-    template <class T, class Number>
-    static bool ReadInteger(
+    template <class T, class Number> static bool ReadInteger(
         const unsigned short* units, std::size_t length, ZrVariant& value, void (ZrVariant::*store)(Number));
     static bool ReadReal(const unsigned short* units, std::size_t length, ZrVariant& value);
     static bool ReadBoolean(const unsigned short* units, std::size_t length, ZrVariant& value);

@@ -1,29 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "xml/Arena.h"
 
-#include <algorithm>
+#include "core/HugePages.h"
 
-#include <sys/mman.h>
+#include <algorithm>
 
 namespace ZrXmlLib16 {
 
 namespace {
 
 constexpr std::size_t SMALLEST_CHUNK = 4096;
-constexpr std::size_t HUGE_PAGE = std::size_t(2) << 20;
-constexpr std::size_t LEAST_FOR_HUGE_PAGES = 2 * HUGE_PAGE;
-
-/// Asks for huge pages where they pay: the memory of a large document is touched once, and most of that costs page
-/// faults. A refusal changes nothing.
-void AdviseHugePages(unsigned char* chunk, std::size_t size)
-{
-    if (size < LEAST_FOR_HUGE_PAGES) {
-        return;
-    }
-    const std::size_t toBoundary = (~reinterpret_cast<std::uintptr_t>(chunk) + 1) & (HUGE_PAGE - 1);
-    const std::size_t length = (size - toBoundary) & ~(HUGE_PAGE - 1);
-    static_cast<void>(madvise(chunk + toBoundary, length, MADV_HUGEPAGE));
-}
 
 } // namespace
 

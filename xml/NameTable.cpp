@@ -104,8 +104,9 @@ NameTable::Entry& NameTable::InsertParsed(const Key& key, const Utf16Unit* quali
     const Utf16Unit* const end = qualifiedName + length;
     const Utf16Unit* const separator = std::find(qualifiedName, end, Utf16Unit{L'|'});
     const bool hasNamespace = separator != end;
-    const NamespaceText& text =
-        hasNamespace ? ShareNamespace(qualifiedName, static_cast<std::size_t>(separator - qualifiedName)) : NoNamespace();
+    const NamespaceText& text = hasNamespace
+        ? ShareNamespace(qualifiedName, static_cast<std::size_t>(separator - qualifiedName))
+        : NoNamespace();
     Entry& entry = Insert(key, text, std::wstring(hasNamespace ? separator + 1 : qualifiedName, end));
     m_newestParsed = &entry;
     return entry;
@@ -183,8 +184,7 @@ NameTable::Entry& NameTable::Insert(const Key& key, const NamespaceText& text, s
     if (2 * (m_entryCount + 1) > m_slotCount) {
         Grow();
     }
-    void* const memory =
-        m_owner.GetArena().Allocate(sizeof(Entry) + std::max(key.size, Entry::BLOCK), alignof(Entry));
+    void* const memory = m_owner.GetArena().Allocate(sizeof(Entry) + std::max(key.size, Entry::BLOCK), alignof(Entry));
     m_newest = new (memory) Entry(key, text, std::move(localName), m_owner, m_newest);
     ++m_entryCount;
     return *(FreeSlot(key.hash) = m_newest);

@@ -103,7 +103,8 @@ void NodeText::AssignParsed(DocumentStorage& storage, const unsigned short* unit
         AssignUtf16(GetForms(&storage).text, units, length);
         return;
     }
-    m_units = static_cast<unsigned short*>(storage.GetArena().Allocate(length * sizeof(*m_units), alignof(unsigned short)));
+    m_units =
+        static_cast<unsigned short*>(storage.GetArena().Allocate(length * sizeof(*m_units), alignof(unsigned short)));
     m_capacity = static_cast<std::uint32_t>(length);
     m_length = m_capacity;
     std::copy_n(units, length, m_units);
@@ -167,8 +168,7 @@ int NodeText::Convert(DocumentStorage* storage, int (*function)(const wchar_t* t
 
 bool NodeText::ContainsCR() const noexcept
 {
-    return IsWide() ? m_forms->text.find(L'\r') != std::wstring::npos
-                    : ZrXmlLib16::ContainsCR(m_units, m_length);
+    return IsWide() ? m_forms->text.find(L'\r') != std::wstring::npos : ZrXmlLib16::ContainsCR(m_units, m_length);
 }
 
 void NodeText::Release() noexcept

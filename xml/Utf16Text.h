@@ -132,7 +132,8 @@ inline Utf16Unit* CopyExcludingCR(Utf16Unit* output, const Utf16Unit* units, std
         }
         found |= CopyWord<std::uint64_t>(output + length - 4, units + length - 4);
     } else if (length >= 2) {
-        found = CopyWord<std::uint32_t>(output, units) | CopyWord<std::uint32_t>(output + length - 2, units + length - 2);
+        found =
+            CopyWord<std::uint32_t>(output, units) | CopyWord<std::uint32_t>(output + length - 2, units + length - 2);
     } else if (length == 1) {
         *output = *units;
         found = *units == CARRIAGE_RETURN;

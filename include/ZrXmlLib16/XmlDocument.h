@@ -147,9 +147,9 @@ private:
     std::unique_ptr<unsigned char[]> m_inputBuffer;         // null when the input is the caller's
     const unsigned char* m_input;
     unsigned long m_inputSize;
-    unsigned long m_elementCount;   // begun since the last clean-up
+    unsigned long m_elementCount;    // begun since the last clean-up
     unsigned long m_maximumElements; // as the context said at the root
-    unsigned long m_nameCharacters; // of their names and those of their attributes, as far as these are long
+    unsigned long m_nameCharacters;  // of their names and those of their attributes, as far as these are long
     SchemaType m_schemaType;
     bool (*m_elementEnd)(CXmlElement*);
     const CSerializationContext* m_context;

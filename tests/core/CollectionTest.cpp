@@ -185,3 +185,49 @@ TEST(Collection, Counts)
         EXPECT_EQ(row.failure.empty(), items->IsValidCount(CSerializationContext()));
     }
 }
+
+// Nodes stay where they are, and the places of removed ones are taken again.
+TEST(Collection, KeepsNodesInPlaceThroughManyChanges)
+{
+    const CSmartPtr<TestCollection> items = NewCollection();
+    std::vector<std::pair<std::string, CXmlCollection::CNode*>> expected;
+    unsigned random = 1;
+    for (int step = 0; step < 3000; ++step) {
+        random = random * 1103515245 + 12345;
+        const std::size_t at = (random >> 16) % (expected.size() + 1);
+        const bool removes = (random >> 8) % 8 < (step < 1500 ? 3U : 5U) && at < expected.size();
+        if (removes) {
+            items->Remove(static_cast<int>(at));
+            expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(at));
+        } else {
+            const std::wstring text = std::to_wstring(step);
+            auto* const node = items->AddItemAt(static_cast<int>(at), NewItem(text));
+            expected.insert(expected.begin() + static_cast<std::ptrdiff_t>(at), {Narrow(text), node});
+        }
+    }
+    ASSERT_EQ(static_cast<int>(expected.size()), items->GetCount());
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        auto* const node = items->GetNodeAtIndex(static_cast<int>(i));
+        ASSERT_EQ(expected[i].second, node);
+        ASSERT_EQ(expected[i].first, TextOf(node->GetItem()));
+    }
+}
+
+TEST(Collection, LosesNoItemWhenAListenerThrowsWhileItIsCleared)
+{
+    const CSmartPtr<TestObject> item = NewItem(L"a");
+    const CSmartPtr<TestCollection> items = NewCollection();
+    items->AppendItem(item);
+    Listener listener;
+    items->AddEventListener(&listener);
+    int events = 0;
+    listener.m_onEvent = [&] {
+        if (++events == 2) {
+            throw CZrException(L"refused");
+        }
+    };
+    EXPECT_THROW(items->Clear(), CZrException);
+    EXPECT_EQ(0, items->GetCount());
+    EXPECT_EQ(2, item->AddRef()); // this test's reference and the new one
+    item->Release();
+}

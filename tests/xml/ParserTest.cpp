@@ -56,6 +56,24 @@ TEST(Parser, TellsManyNamesApart)
     EXPECT_EQ(expected + L")", ParsedTree((text + "</r>").c_str()));
 }
 
+// Of every length around the blocks in which names are compared, each the beginning of the next, in every order.
+TEST(Parser, TellsNamesApartThatBeginAlike)
+{
+    for (const std::string uri : {"", "u", "urn:example:a-rather-long-namespace"}) {
+        std::string text = "<r xmlns=\"" + uri + "\">";
+        std::wstring expected;
+        const std::string letters(40, 'n');
+        for (std::size_t i = 0; i < 400; ++i) {
+            const std::size_t length = 1 + i * i % 37;
+            text += "<" + letters.substr(0, length) + "/>";
+            expected += (expected.empty() ? L"" : L", ")
+                + TestSupport::NameText(std::wstring(uri.begin(), uri.end()), std::wstring(length, L'n'));
+        }
+        EXPECT_EQ(TestSupport::NameText(std::wstring(uri.begin(), uri.end()), L"r") + L" (" + expected + L")",
+            ParsedTree((text + "</r>").c_str()));
+    }
+}
+
 TEST(Parser, ReportsErrorsWithTheirLine)
 {
     const std::pair<const char*, const wchar_t*> cases[] = {{"<a>\n<b>\n</a>", L"mismatched tag at line 3"},
