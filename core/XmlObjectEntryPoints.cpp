@@ -11,7 +11,9 @@
 #include "ZrXmlLib16/ZrException.h"
 #include "core/CoreMessages.h"
 #include "core/EntryPointFiles.h"
+#include "core/ErrorPosition.h"
 #include "core/VersionCheck.h"
+#include "xml/ConvertedTextScope.h"
 
 namespace ZrXmlLib16 {
 
@@ -72,12 +74,14 @@ void CXmlObjectBase::ReadElement(const CXmlElement* element, const CSerializatio
     // The walk hands out pointers into the tree that generated code may keep moving along; it never writes through
     // them.
     CXmlElement* root = const_cast<CXmlElement*>(element);
-    if (FromXml_Int(root, root->GetFirstElement(), context, false) == root) {
-        // Nothing but an untyped element refuses the whole of what it is given.
-        if (const CElement* untyped = dynamic_cast<const CElement*>(this)) {
-            untyped->ThrowNamespaceInvalid(root->GetNamespaceURI());
+    ReadingAt(*root, [&] {
+        if (FromXml_Int(root, root->GetFirstElement(), context, false) == root) {
+            // Nothing but an untyped element refuses the whole of what it is given.
+            if (const CElement* untyped = dynamic_cast<const CElement*>(this)) {
+                untyped->ThrowNamespaceInvalid(root->GetNamespaceURI());
+            }
         }
-    }
+    });
 }
 
 void CXmlObjectBase::FromXmlFile(const wchar_t* fileName, const CSerializationContext& context)
@@ -130,6 +134,7 @@ void CXmlObjectBase::FromXmlElement(const CElement* element, const CSerializatio
     if (!element) {
         throw CZrException(Message::NO_ROOT_ELEMENT);
     }
+    const ConvertedTextScope converted;
     FromXml(element->ToXml(false, false, EOL_LF).c_str(), context);
 }
 
