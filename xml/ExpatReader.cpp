@@ -109,6 +109,7 @@ void CExpatReader::Parse(bool isFinal)
         const unsigned long slice = std::min(rest, largest);
         rest -= slice;
         isLast = rest == 0;
+        m_lines.Extend(slice);
         if (XML_Parse(m_parser.get(), input, static_cast<int>(slice), isLast && isFinal) != XML_STATUS_OK) {
             ThrowFailure();
         }

@@ -8,7 +8,6 @@ namespace ZrXmlLib16 {
 
 LineTracker::LineTracker(const unsigned char* text, std::size_t size) noexcept
     : m_text(text)
-    , m_size(size)
 {
     // XML 1.0, appendix F: a text in UTF-16 begins with a mark or with "<". All other encodings that the parser takes
     // have the octets of ASCII for line ends.
@@ -33,6 +32,22 @@ LineTracker::LineTracker(const unsigned char* text, std::size_t size) noexcept
         }
     }
     Restart();
+}
+
+void LineTracker::Extend(std::size_t count) noexcept
+{
+    if (!m_text) {
+        return;
+    }
+    const std::size_t from = std::max(m_size, m_lineStart);
+    m_size += count;
+    if (m_nextLineFeed == NONE) {
+        m_nextLineFeed = Find('\n', from);
+    }
+    if (m_nextReturn == NONE) {
+        m_nextReturn = Find('\r', from);
+    }
+    FindNextLine();
 }
 
 void LineTracker::Restart() noexcept
