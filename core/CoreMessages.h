@@ -9,6 +9,9 @@ namespace Message {
 /// between a message and its path
 constexpr wchar_t PATH_SUFFIX[] = L"\nPath: ";
 
+/// line, column
+constexpr wchar_t AT_POSITION[] = L"At line %lu, column %lu";
+
 constexpr wchar_t VERSION_NOTICE_RULE[] = L"\n-----------------Version Mismatch-----------------\n";
 constexpr wchar_t VERSION_NOTICE_TITLE[] = L"Velloc XML 2018 - Version Mismatch Error\n";
 /// library major, minor, generator major, minor

@@ -2,6 +2,7 @@
 #include "ZrXmlLib16/ErrorReport.h"
 
 #include "ZrXmlLib16/Encoder.h"
+#include "ZrXmlLib16/Formatting.h"
 #include "core/CoreMessages.h"
 
 #include <algorithm>
@@ -30,6 +31,31 @@ bool LeadsTo(const std::wstring& path, const std::wstring& node)
 
 class Report {
 public:
+    explicit Report(const CZrException& outermost)
+        : m_line(outermost.GetLine())
+        , m_column(outermost.GetColumn())
+    {
+        for (const CZrException* link = &outermost; link != nullptr; link = link->GetInnerException()) {
+            Add(*link);
+        }
+    }
+
+    std::string Text() const
+    {
+        std::wstring text;
+        for (const std::wstring& message : m_messages) {
+            AppendLines(text, message);
+        }
+        for (const std::wstring& path : m_paths) {
+            AppendLines(text, &Message::PATH_SUFFIX[1] + path);
+        }
+        if (m_line != 0) {
+            AppendLines(text, FormatString(Message::AT_POSITION, m_line, m_column));
+        }
+        return CEncoder::UnicodeToUtf8(text);
+    }
+
+private:
     void Add(const CZrException& exception)
     {
         std::wstring message = WithoutPath(exception);
@@ -48,19 +74,6 @@ public:
         }
     }
 
-    std::string Text() const
-    {
-        std::wstring text;
-        for (const std::wstring& message : m_messages) {
-            AppendLines(text, message);
-        }
-        for (const std::wstring& path : m_paths) {
-            AppendLines(text, &Message::PATH_SUFFIX[1] + path);
-        }
-        return CEncoder::UnicodeToUtf8(text);
-    }
-
-private:
     static void AppendLines(std::wstring& text, const std::wstring& lines)
     {
         std::size_t begin = 0;
@@ -76,17 +89,15 @@ private:
 
     std::vector<std::wstring> m_messages;
     std::vector<std::wstring> m_paths;
+    const unsigned long m_line;
+    const unsigned long m_column;
 };
 
 } // namespace
 
 std::string FormatReport(const CZrException& exception)
 {
-    Report report;
-    for (const CZrException* link = &exception; link != nullptr; link = link->GetInnerException()) {
-        report.Add(*link);
-    }
-    return report.Text();
+    return Report(exception).Text();
 }
 
 void RethrowAsRuntimeError()

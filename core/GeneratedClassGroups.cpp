@@ -6,6 +6,7 @@
 #include "ZrXmlLib16/ZrValidationException.h"
 #include "ZrXmlLib16Data/ElementInfo.h"
 #include "core/CoreMessages.h"
+#include "core/ErrorPosition.h"
 #include "core/SeenFlags.h"
 #include "core/TargetNamespace.h"
 
@@ -27,9 +28,10 @@ CXmlElement* Next(const CXmlElement* element)
 
 [[noreturn]] void ThrowChildLeftOver(const CXmlElement& parent, const CXmlElement& child)
 {
-    throw CZrValidationException(
-        FormatString(Message::CHILD_LEFT_OVER, parent.GetLocalName().c_str(), child.GetLocalName().c_str()),
-        parent.GetXPath());
+    ThrowAt(child,
+        CZrValidationException(
+            FormatString(Message::CHILD_LEFT_OVER, parent.GetLocalName().c_str(), child.GetLocalName().c_str()),
+            parent.GetXPath()));
 }
 
 /// Whether a collection would have to answer for an element that is not its own: its count rule would come too early.

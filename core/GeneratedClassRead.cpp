@@ -12,6 +12,7 @@
 #include "ZrXmlLib16Data/ParentElementInfo.h"
 #include "core/CoreMessages.h"
 #include "core/DepthGuard.h"
+#include "core/ErrorPosition.h"
 #include "core/NilAttribute.h"
 #include "core/SeenFlags.h"
 #include "xml/NodeAccess.h"
@@ -57,7 +58,8 @@ CXmlElement* CXmlGeneratedClass::FromXml_Int(
             SetElementName(element->GetLocalName().c_str());
         }
         return ReadContent(info, element, firstChild, context, isOptional);
-    } catch (const CZrException& exception) {
+    } catch (CZrException& exception) {
+        ErrorPosition::Attach(exception, *element);
         if (!exception.GetPath().empty()) {
             // kept: required behaviour. The innermost location wins, and the copy is of the base type.
             throw CZrException(exception);

@@ -6,6 +6,7 @@
 #include "ZrXmlLib16/JsonContext.h"
 #include "ZrXmlLib16/JsonTextWriter.h"
 #include "ZrXmlLib16/TextStream.h"
+#include "ZrXmlLib16/Utf8.h"
 #include "ZrXmlLib16/XmlDocument.h"
 #include "ZrXmlLib16/XmlObjectBase.h"
 #include "ZrXmlLib16/ZrException.h"
@@ -13,6 +14,7 @@
 #include "core/EntryPointFiles.h"
 #include "core/FormatSettings.h"
 #include "core/VersionCheck.h"
+#include "xml/ConvertedTextScope.h"
 
 #include <optional>
 #include <utility>
@@ -80,6 +82,7 @@ void CXmlObjectBase::ReadConverted(CBinaryData bytes, const CSerializationContex
         // kept: required behaviour. The caller's context is altered for the time of the call.
         scope.emplace(context);
     }
+    const ConvertedTextScope converted;
     std::wstring text;
     try {
         text = CEncoder::Utf8ToUnicode(bytes);
@@ -118,6 +121,14 @@ void CXmlObjectBase::FromJsonStream(
 void CXmlObjectBase::FromJsonStream(const CBinaryData& bytes, const CSerializationContext& context)
 {
     FromJsonStream(bytes.GetData(), bytes.GetLength(), context);
+}
+
+void ReadJson(CXmlDocument& tree, std::string_view document)
+{
+    const CBinaryData xml =
+        tree.LoadJsonStream(reinterpret_cast<const unsigned char*>(document.data()), document.length());
+    const ConvertedTextScope converted;
+    tree.LoadXmlStream(xml.GetData(), xml.GetLength());
 }
 
 } // namespace ZrXmlLib16

@@ -7,6 +7,7 @@
 #include "ZrXmlLib16/ZrInvalidStateException.h"
 #include "ZrXmlLib16/ZrValidationException.h"
 #include "core/CoreMessages.h"
+#include "core/ErrorPosition.h"
 #include "xml/NodeAccess.h"
 
 #include <utility>
@@ -75,8 +76,8 @@ CSmartPtr<CXmlObjectBase> CXmlCollection::RequireItem(CXmlElement* element)
 {
     CSmartPtr<CXmlObjectBase> item = CreateItem(element);
     if (!item) {
-        throw CZrValidationException(
-            FormatString(Message::NO_SUBSTITUTION, ElementName().c_str()), element->GetXPath());
+        ThrowAt(*element,
+            CZrValidationException(FormatString(Message::NO_SUBSTITUTION, ElementName().c_str()), element->GetXPath()));
     }
     return item;
 }

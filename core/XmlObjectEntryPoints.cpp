@@ -11,7 +11,9 @@
 #include "ZrXmlLib16/ZrException.h"
 #include "core/CoreMessages.h"
 #include "core/EntryPointFiles.h"
+#include "core/ErrorPosition.h"
 #include "core/VersionCheck.h"
+#include "xml/ConvertedTextScope.h"
 #include "xml/NodeAccess.h"
 
 namespace ZrXmlLib16 {
@@ -74,12 +76,14 @@ void CXmlObjectBase::ReadElement(const CXmlElement* element, const CSerializatio
     // them.
     CXmlElement* root = const_cast<CXmlElement*>(element);
     NodeAccess::BeginWalk(*root);
-    if (FromXml_Int(root, root->GetFirstElement(), context, false) == root) {
-        // Nothing but an untyped element refuses the whole of what it is given.
-        if (const CElement* untyped = dynamic_cast<const CElement*>(this)) {
-            untyped->ThrowNamespaceInvalid(root->GetNamespaceURI());
+    ReadingAt(*root, [&] {
+        if (FromXml_Int(root, root->GetFirstElement(), context, false) == root) {
+            // Nothing but an untyped element refuses the whole of what it is given.
+            if (const CElement* untyped = dynamic_cast<const CElement*>(this)) {
+                untyped->ThrowNamespaceInvalid(root->GetNamespaceURI());
+            }
         }
-    }
+    });
 }
 
 void CXmlObjectBase::FromXmlFile(const wchar_t* fileName, const CSerializationContext& context)
@@ -132,6 +136,7 @@ void CXmlObjectBase::FromXmlElement(const CElement* element, const CSerializatio
     if (!element) {
         throw CZrException(Message::NO_ROOT_ELEMENT);
     }
+    const ConvertedTextScope converted;
     FromXml(element->ToXml(false, false, EOL_LF).c_str(), context);
 }
 

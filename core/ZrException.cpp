@@ -16,18 +16,24 @@ std::wstring WithPath(const std::wstring& message, const std::wstring& path)
 
 CZrException::CZrException()
     : m_inner(nullptr)
+    , m_line(0)
+    , m_column(0)
 {
 }
 
 CZrException::CZrException(const std::wstring& message)
     : m_message(message)
     , m_inner(nullptr)
+    , m_line(0)
+    , m_column(0)
 {
 }
 
 CZrException::CZrException(const std::wstring& message, const CZrException& inner)
     : m_message(message)
     , m_inner(inner.Clone())
+    , m_line(inner.m_line)
+    , m_column(inner.m_column)
 {
 }
 
@@ -35,6 +41,8 @@ CZrException::CZrException(const std::wstring& message, const std::wstring& path
     : m_message(WithPath(message, path))
     , m_path(path)
     , m_inner(nullptr)
+    , m_line(0)
+    , m_column(0)
 {
 }
 
@@ -42,6 +50,8 @@ CZrException::CZrException(const std::wstring& message, const std::wstring& path
     : m_message(WithPath(message, path))
     , m_path(path)
     , m_inner(inner.Clone())
+    , m_line(inner.m_line)
+    , m_column(inner.m_column)
 {
 }
 
@@ -49,6 +59,8 @@ CZrException::CZrException(const CZrException& other)
     : m_message(other.m_message)
     , m_path(other.m_path)
     , m_inner(other.m_inner ? other.m_inner->Clone() : nullptr)
+    , m_line(other.m_line)
+    , m_column(other.m_column)
 {
 }
 
@@ -76,6 +88,8 @@ CZrException& CZrException::operator=(const CZrException& other)
         CZrException* inner = other.m_inner ? other.m_inner->Clone() : nullptr;
         m_message = other.m_message;
         m_path = other.m_path;
+        m_line = other.m_line;
+        m_column = other.m_column;
         DestroyInner();
         m_inner = inner;
     }
@@ -95,6 +109,16 @@ const std::wstring& CZrException::GetMessage() const
 const std::wstring& CZrException::GetPath() const
 {
     return m_path;
+}
+
+unsigned long CZrException::GetLine() const
+{
+    return m_line;
+}
+
+unsigned long CZrException::GetColumn() const
+{
+    return m_column;
 }
 
 const CZrException* CZrException::GetInnerException() const

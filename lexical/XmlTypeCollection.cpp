@@ -2,6 +2,7 @@
 #include "ZrXmlLib16/XmlTypeCollection.h"
 
 #include "ZrXmlLib16/XmlElement.h"
+#include "core/ErrorPosition.h"
 #include "core/TextArgument.h"
 #include "lexical/FacetCheck.h"
 #include "xml/NodeAccess.h"
@@ -36,7 +37,7 @@ CXmlElement* CXmlTypeCollection::FromXml_Int(
     // collection even when more items follow it.
     CXmlElement* cursor = firstChild;
     while (DoesElementNameMatch(context, cursor, ElementName(), Namespace())) {
-        AddFromString(NodeAccess::CopyText(*cursor));
+        ReadingAt(*cursor, [&] { AddFromString(NodeAccess::CopyText(*cursor)); });
         cursor = cursor->GetNextSiblingElement();
     }
     return cursor;

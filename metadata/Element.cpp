@@ -11,6 +11,7 @@
 #include "ZrXmlLib16/ZrValidationException.h"
 #include "core/CoreMessages.h"
 #include "core/DepthGuard.h"
+#include "core/ErrorPosition.h"
 #include "core/RootPreparation.h"
 #include "core/TextArgument.h"
 #include "metadata/MetadataMessages.h"
@@ -218,14 +219,15 @@ CXmlElement* CElement::FromXml_Int(
     }
     const CDepthGuard depth;
     if (depth.IsTooDeep(context)) {
-        throw CZrException(Message::NESTING_TOO_DEEP, element->GetXPath());
+        ThrowAt(*element, CZrException(Message::NESTING_TOO_DEEP, element->GetXPath()));
     }
     Clear();
     TakeAttributes(*element);
     if (firstChild) {
         if (const CXmlElement* refused = CXmlObjectBase::FromXml_Int(&Elements(), element, firstChild, context)) {
-            throw CZrValidationException(
-                FormatString(Text::ELEMENT_REFUSED, refused->GetLocalName().c_str()), refused->GetXPath());
+            ThrowAt(*refused,
+                CZrValidationException(
+                    FormatString(Text::ELEMENT_REFUSED, refused->GetLocalName().c_str()), refused->GetXPath()));
         }
     }
     TakeNameAndText(*element);

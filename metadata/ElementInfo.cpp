@@ -8,6 +8,7 @@
 #include "ZrXmlLib16/XmlObjectHelper.h"
 #include "ZrXmlLib16/ZrValidationException.h"
 #include "ZrXmlLib16/ZrVariant.h"
+#include "core/ErrorPosition.h"
 #include "core/TextArgument.h"
 #include "lexical/FacetCheck.h"
 #include "metadata/MetadataMessages.h"
@@ -195,7 +196,8 @@ void CElementInfo::InvokePropertySet(CXmlGeneratedClass* object, ZrVariant& valu
 {
     try {
         object->AccessProperty(m_propertyId, false, value);
-    } catch (const CZrException& exception) {
+    } catch (CZrException& exception) {
+        ErrorPosition::Attach(exception, source);
         throw CZrValidationException(Message::PROPERTY_SET_FAILED, source.GetXPath(), exception);
     }
 }

@@ -7,6 +7,7 @@
 #include "ZrXmlLib16/ZrInvalidStateException.h"
 #include "ZrXmlLib16/ZrValidationException.h"
 #include "ZrXmlLib16/ZrVariant.h"
+#include "core/ErrorPosition.h"
 #include "metadata/MetadataMessages.h"
 #include "metadata/RecordAccess.h"
 
@@ -67,7 +68,7 @@ bool PrimKind::Write(const CElementInfo& record, const WriteCall& call)
 
 bool PrimKind::Read(CElementInfo& record, const Data&, const ReadCall& call, Occurrence)
 {
-    CRecordAccess::ReadPrim(record, call.context, call.object, call.current);
+    ReadingAt(**call.current, [&] { CRecordAccess::ReadPrim(record, call.context, call.object, call.current); });
     return true;
 }
 
@@ -78,7 +79,7 @@ bool EnumKind::Write(const CElementInfo& record, const WriteCall& call)
 
 bool EnumKind::Read(CElementInfo& record, const Data&, const ReadCall& call, Occurrence)
 {
-    CRecordAccess::ReadEnum(record, call.context, call.object, call.current);
+    ReadingAt(**call.current, [&] { CRecordAccess::ReadEnum(record, call.context, call.object, call.current); });
     return true;
 }
 
@@ -125,7 +126,8 @@ bool AbsClsKind::Read(CElementInfo& record, const Data& data, const ReadCall& ca
     CSmartPtr<CXmlObjectBase> child = data.factory(element);
     if (!child) {
         if (occurrence == Occurrence::Mandatory) {
-            throw CZrValidationException(FormatString(MISSING, record.GetElementName().c_str()), element->GetXPath());
+            ThrowAt(*element,
+                CZrValidationException(FormatString(MISSING, record.GetElementName().c_str()), element->GetXPath()));
         }
         return false;
     }

@@ -90,8 +90,9 @@ void XmlNameRelease::operator()(const XmlName* name) const noexcept
     }
 }
 
-DocumentStorage::DocumentStorage(std::size_t inputSize)
-    : m_arena(std::min(inputSize, LARGEST_ESTIMATED_INPUT) * ARENA_PER_INPUT)
+DocumentStorage::DocumentStorage(CXmlDocument& document, std::size_t inputSize)
+    : m_document(document)
+    , m_arena(std::min(inputSize, LARGEST_ESTIMATED_INPUT) * ARENA_PER_INPUT)
     , m_classes(m_arena)
     , m_elements(*this, sizeof(CXmlElement))
     , m_attributes(*this, sizeof(CXmlAttribute))

@@ -11,6 +11,8 @@
 
 namespace ZrXmlLib16 {
 
+class CXmlDocument;
+
 /// Memory for nodes of one size; freed nodes are used again.
 ///
 /// In front of every node stands the address of its pool, or null when the node came from the heap, so that a plain
@@ -36,8 +38,9 @@ private:
 /// that a caller took out of the tree and has not deleted yet: these stay valid.
 class DocumentStorage {
 public:
+    /// @param document not owned; see GetDocument.
     /// @param inputSize bytes of the document's text, 0 when unknown.
-    explicit DocumentStorage(std::size_t inputSize);
+    DocumentStorage(CXmlDocument& document, std::size_t inputSize);
     DocumentStorage(const DocumentStorage&) = delete;
     DocumentStorage& operator=(const DocumentStorage&) = delete;
 
@@ -51,6 +54,8 @@ public:
     /// fill the arena with the texts of nodes that are gone.
     void ReleaseNode() noexcept { m_hasWholeTree = false; }
 
+    /// Not for nodes that have outlived their document.
+    CXmlDocument& GetDocument() const noexcept { return m_document; }
     NodePool& GetElementPool() noexcept { return m_elements; }
     NodePool& GetAttributePool() noexcept { return m_attributes; }
     NameTable& GetNames() noexcept { return m_names; }
@@ -73,6 +78,7 @@ private:
     ~DocumentStorage();
     void NodeFreed() noexcept;
 
+    CXmlDocument& m_document;
     Arena m_arena;
     ClassMemory m_classes;
     NodePool m_elements;

@@ -8,7 +8,9 @@
 #include "ZrXmlLib16/XmlDocument.h"
 #include "ZrXmlLib16/XmlElement.h"
 #include "ZrXmlLib16/ZrException.h"
+#include "core/ErrorPosition.h"
 #include "core/FormatSettings.h"
+#include "xml/ConvertedTextScope.h"
 #include "xml/DocumentStorage.h"
 #include "xml/NodeAccess.h"
 #include "xml/XmlMessages.h"
@@ -51,6 +53,12 @@ std::wstring DescribeError(XML_Error error)
 {
     const XML_LChar* const text = XML_ErrorString(error);
     return text ? std::wstring(text, text + std::strlen(text)) : std::wstring();
+}
+
+// In octets of the input; beyond it when there is none.
+std::size_t CurrentOffset(XML_Parser parser)
+{
+    return static_cast<std::size_t>(XML_GetCurrentByteIndex(parser));
 }
 
 } // namespace
@@ -97,11 +105,15 @@ void CExpatReader::Parse(bool isFinal)
     unsigned long largest = SMALLEST_SLICE;
     XML_Index reached = 0;
     bool isLast = false;
+    if (isFinal && !ConvertedTextScope::IsActive()) {
+        m_lines = LineTracker(m_document.GetInputBuffer(), rest);
+    }
     const ParserMemory::Scope scope(m_memory);
     while (!isLast) {
         const unsigned long slice = std::min(rest, largest);
         rest -= slice;
         isLast = rest == 0;
+        m_lines.Extend(slice);
         if (XML_Parse(m_parser.get(), input, static_cast<int>(slice), isLast && isFinal) != XML_STATUS_OK) {
             ThrowFailure();
         }
@@ -126,6 +138,7 @@ void CExpatReader::ThrowFailure()
     const XML_Error error = XML_GetErrorCode(m_parser.get());
     const std::wstring description = DescribeError(error);
     const int line = static_cast<int>(XML_GetCurrentLineNumber(m_parser.get()));
+    const TextPosition position = m_lines.Locate(CurrentOffset(m_parser.get()));
     if (m_handlerFailure) {
         Cleanup();
         std::rethrow_exception(m_handlerFailure);
@@ -137,7 +150,9 @@ void CExpatReader::ThrowFailure()
         }
         throw CZrException(FormatString(Message::START_TAG_EXPANDS_TOO_FAR, m_maximumExpansion));
     }
-    throw CZrException(FormatString(Message::PARSE_FAILED, description.c_str(), line));
+    CZrException failure(FormatString(Message::PARSE_FAILED, description.c_str(), line));
+    ErrorPosition::Attach(failure, position.line, position.column);
+    throw failure;
 }
 
 // The parser may still deliver events of the current tag after it was stopped.
@@ -166,6 +181,7 @@ void CExpatReader::StartElement(const Utf16Unit* name, const Utf16Unit** attribu
     const XmlName& elementName = names.Intern(name);
     CXmlElement* const element = m_document.GetDocumentElement() ? m_document.OpenChildElement(elementName)
                                                                  : m_document.OpenDocElement(elementName);
+    element->m_position = m_lines.Locate(CurrentOffset(m_parser.get()));
     for (; *attributes; attributes += 2) {
         const Utf16Unit* const value = attributes[1];
         const XmlName& attributeName = names.Intern(attributes[0]);

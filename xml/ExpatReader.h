@@ -2,6 +2,7 @@
 #ifndef XML_EXPATREADER_H
 #define XML_EXPATREADER_H
 
+#include "xml/LineTracker.h"
 #include "xml/ParserMemory.h"
 #include "xml/Utf16Text.h"
 
@@ -55,6 +56,7 @@ private:
     DocumentStorage* m_storage = nullptr; // of the document
     ParserMemory m_memory;
     std::unique_ptr<XML_ParserStruct, ParserDeleter> m_parser;
+    LineTracker m_lines;
     std::exception_ptr m_handlerFailure;
 };
 

@@ -98,7 +98,7 @@ void CXmlDocument::StorageDeleter::operator()(DocumentStorage* storage) const no
 DocumentStorage& CXmlDocument::GetStorage()
 {
     if (!m_storage) {
-        m_storage.reset(new DocumentStorage(m_inputSize));
+        m_storage.reset(new DocumentStorage(*this, m_inputSize));
     }
     return *m_storage;
 }
@@ -142,7 +142,7 @@ std::unique_ptr<CXmlElement> CXmlDocument::NewElement(CXmlElement* parent, const
     }
     ++m_elementCount;
     CountName(name);
-    return std::unique_ptr<CXmlElement>(new (name.storage->GetElementPool()) CXmlElement(this, parent, &name));
+    return std::unique_ptr<CXmlElement>(new (name.storage->GetElementPool()) CXmlElement(parent, name));
 }
 
 // A prefix or an index repeats a namespace or name of any length, which every object that takes it copies.

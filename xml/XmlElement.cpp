@@ -11,17 +11,23 @@
 namespace ZrXmlLib16 {
 
 CXmlElement::CXmlElement(CXmlDocument* document, CXmlElement* parent)
-    : CXmlElement(document, parent, new OwnXmlName(std::wstring(), std::wstring()))
-{
-}
-
-CXmlElement::CXmlElement(CXmlDocument* document, CXmlElement* parent, const XmlName* name)
     : m_document(document)
     , m_parent(parent)
     , m_nextSibling(nullptr)
     , m_previousSibling(nullptr)
     , m_firstChild(nullptr)
-    , m_name(name)
+    , m_name(new OwnXmlName(std::wstring(), std::wstring()))
+    , m_lastAttribute(nullptr)
+{
+}
+
+CXmlElement::CXmlElement(CXmlElement* parent, const XmlName& name)
+    : m_position()
+    , m_parent(parent)
+    , m_nextSibling(nullptr)
+    , m_previousSibling(nullptr)
+    , m_firstChild(nullptr)
+    , m_name(&name)
     , m_lastAttribute(nullptr)
 {
 }
@@ -71,8 +77,7 @@ CXmlElement* CXmlElement::CreateNewChildElement()
         return AppendChild(std::unique_ptr<CXmlElement>(new CXmlElement(m_document, this)));
     }
     const XmlName& noName = storage->GetNames().Intern(std::wstring(), std::wstring());
-    return AppendChild(
-        std::unique_ptr<CXmlElement>(new (storage->GetElementPool()) CXmlElement(m_document, this, &noName)));
+    return AppendChild(std::unique_ptr<CXmlElement>(new (storage->GetElementPool()) CXmlElement(this, noName)));
 }
 
 CXmlElement* CXmlElement::AppendChild(std::unique_ptr<CXmlElement> child)
@@ -250,8 +255,9 @@ CXmlAttribute* CXmlElement::FindAttribute(const std::wstring& localName, const s
 
 std::wstring CXmlElement::GetQName() const
 {
-    if (m_document && !GetNamespaceURI().empty()) {
-        std::wstring name = m_document->LookupAliasFromNamespace(GetNamespaceURI());
+    const CXmlDocument* const document = GetDocument();
+    if (document && !GetNamespaceURI().empty()) {
+        std::wstring name = document->LookupAliasFromNamespace(GetNamespaceURI());
         if (!name.empty()) {
             return name.append(1, L':').append(GetLocalName());
         }
@@ -310,7 +316,18 @@ CXmlElement* CXmlElement::GetParent() const
 
 CXmlDocument* CXmlElement::GetDocument() const
 {
-    return m_document;
+    const DocumentStorage* const storage = GetStorage();
+    return storage ? &storage->GetDocument() : m_document;
+}
+
+unsigned long CXmlElement::GetLine() const
+{
+    return GetStorage() ? m_position.line : 0;
+}
+
+unsigned long CXmlElement::GetColumn() const
+{
+    return GetStorage() ? m_position.column : 0;
 }
 
 } // namespace ZrXmlLib16

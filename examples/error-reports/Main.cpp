@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// What a failure says in each format: the chain of causes and the path to the node at fault, as one text for people, as
-// single parts for programs, and as a std::runtime_error for callers that know nothing else. The classes are in
-// shared/orders/.
+// What a failure says in each format: the chain of causes, the path to the node at fault and its line, as one text for
+// people, as single parts for programs, and as a std::runtime_error for callers that know nothing else. The classes are
+// in shared/orders/.
 #include "ZrXmlLib16/ErrorReport.h"
 #include "ZrXmlLib16/Utf8.h"
 #include "ZrXmlLib16/ZrValidationException.h"
@@ -89,6 +89,19 @@ void ShowParts(COrder& order)
     }
 }
 
+/// The form that editors and build tools turn into a link.
+void ShowPlace(const COrder& order)
+{
+    try {
+        COrder read;
+        ReadXml(read, Replace(WriteXml(order, {}, ReadablePrefixes()), "<city>", "<town/><city>"));
+    } catch (const CZrException& exception) {
+        const std::string message = ToUtf8(exception.GetMessage());
+        std::printf("--- as a place in a file\norder.xml:%lu:%lu: %s\n\n", exception.GetLine(), exception.GetColumn(),
+            message.substr(0, message.find('\n')).c_str());
+    }
+}
+
 /// For callers that know only std::exception.
 void ShowStandardExceptions(const COrder& order)
 {
@@ -112,6 +125,7 @@ int main()
     FillOrder(order);
     ShowReading(order);
     ShowSyntax(order);
+    ShowPlace(order);
     ShowParts(order);
     ShowStandardExceptions(order);
     return 0;

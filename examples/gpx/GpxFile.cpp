@@ -5,9 +5,9 @@
 #include "Stopwatch.h"
 #include "ZrXmlLib16/AttributeCol.h"
 #include "ZrXmlLib16/Encoder.h"
+#include "ZrXmlLib16/ErrorReport.h"
 #include "ZrXmlLib16/XmlDocument.h"
 #include "ZrXmlLib16/XmlElement.h"
-#include "ZrXmlLib16/ZrException.h"
 
 #include <filesystem>
 
@@ -87,7 +87,7 @@ ReadResult ReadGpxFile(const std::wstring& fileName)
     try {
         result.gpx->FromXmlElement(root, context);
     } catch (const CZrException& exception) {
-        result.deviation = exception.GetFullMessage();
+        result.deviation = FormatReport(exception);
         context.SetIgnoreUnknownElements(true);
         context.SetIgnoreUnknownAttributes(true);
         result.gpx->FromXmlElement(root, context);

@@ -24,7 +24,7 @@ struct ReadResult {
     Cost cost;
     /// Why the file could not be read to the letter; empty when it could. What the classes do not know was then
     /// ignored.
-    std::wstring deviation;
+    std::string deviation;
     /// Where the document binds a prefix several times, the last one counts.
     Prefixes prefixes;
 };

@@ -8,7 +8,7 @@
 #include "SampleWalk.h"
 #include "Summary.h"
 #include "ZrXmlLib16/Encoder.h"
-#include "ZrXmlLib16/ZrException.h"
+#include "ZrXmlLib16/ErrorReport.h"
 
 #include <cstdio>
 #include <exception>
@@ -30,17 +30,16 @@ void Print(const std::wstring& text)
     std::fputs(CEncoder::UnicodeToUtf8(text).c_str(), stdout);
 }
 
-void PrintReport(const char* title, const std::wstring& report)
+void PrintReport(const char* title, const std::string& report)
 {
-    std::printf("\n%s\n", title);
-    std::wstring indented = L"  | ";
-    for (const wchar_t character : report) {
+    std::string indented = "  | ";
+    for (const char character : report) {
         indented += character;
-        if (character == L'\n') {
-            indented += L"  | ";
+        if (character == '\n') {
+            indented += "  | ";
         }
     }
-    Print(indented + L"\n");
+    std::printf("\n%s\n%s\n", title, indented.c_str());
 }
 
 void PrintCost(const char* action, const std::string& fileName, const Cost& cost)
@@ -188,7 +187,7 @@ int main(int argc, char** argv)
     try {
         return Run(argc > 1 ? argv[1] : MakeSampleFile(), argc > 2 ? argv[2] : BesideProgram("changed.gpx"));
     } catch (const ZrXmlLib16::CZrException& exception) {
-        std::fprintf(stderr, "gpx_demo: %s\n", CEncoder::UnicodeToUtf8(exception.GetFullMessage()).c_str());
+        std::fprintf(stderr, "gpx_demo: %s\n", FormatReport(exception).c_str());
     } catch (const std::exception& exception) {
         std::fprintf(stderr, "gpx_demo: %s\n", exception.what());
     }

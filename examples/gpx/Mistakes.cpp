@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Mistakes.h"
 
-#include "ZrXmlLib16/ZrException.h"
+#include "ZrXmlLib16/ErrorReport.h"
 #include "classes/Gpx.h"
 
 namespace Demo {
 
-std::wstring WriteImpossibleLatitude()
+std::string WriteImpossibleLatitude()
 {
     Gpx::CGpx gpx;
     gpx.SetCreator(L"gpx_demo");
@@ -17,12 +17,12 @@ std::wstring WriteImpossibleLatitude()
     try {
         gpx.ToXml();
     } catch (const ZrXmlLib16::CZrException& exception) {
-        return exception.GetFullMessage();
+        return FormatReport(exception);
     }
     return {};
 }
 
-std::wstring ReadMisspeltElement()
+std::string ReadMisspeltElement()
 {
     constexpr char DOCUMENT[] = R"(<gpx version="1.1" creator="somebody" xmlns="http://www.topografix.com/GPX/1/1">
   <trk>
@@ -36,7 +36,7 @@ std::wstring ReadMisspeltElement()
     try {
         gpx.FromXml(DOCUMENT);
     } catch (const ZrXmlLib16::CZrException& exception) {
-        return exception.GetFullMessage();
+        return FormatReport(exception);
     }
     return {};
 }

@@ -8,10 +8,10 @@ namespace Demo {
 
 /// Writes a point with an impossible latitude. @return what the library reports, with all causes; empty when it reports
 /// nothing.
-std::wstring WriteImpossibleLatitude();
+std::string WriteImpossibleLatitude();
 
 /// Reads a point with a misspelt element. @return as above.
-std::wstring ReadMisspeltElement();
+std::string ReadMisspeltElement();
 
 } // namespace Demo
 

@@ -11,14 +11,15 @@
 namespace ZrXmlLib16 {
 
 /// The chain of an exception as UTF-8 text for people, without a line feed at the end: the outermost message, each
-/// cause on an indented line of its own, and at last the path of the node at fault.
+/// cause on an indented line of its own, and at last the path of the node at fault and its place in the text.
 ///
 ///     Failed to process the element.
 ///       Failed to find the required child element [price].
 ///       Path: /order/item[2]
+///       At line 12, column 5
 ///
 /// A message that several levels repeat stands there once. The path is the innermost one; another is added only when it
-/// does not lead to that node.
+/// does not lead to that node. The place is left out when it is not known.
 ZRXML_API std::string FormatReport(const CZrException& exception);
 
 /// Called in a handler: throws the CZrException in flight as a std::runtime_error, whose what() is its report. The

@@ -3,6 +3,7 @@
 #define ZRXMLLIB16_UTF8_H
 
 #include "ZrXmlLib16/Encoder.h"
+#include "ZrXmlLib16/Export.h"
 #include "ZrXmlLib16/XmlDocument.h"
 #include "ZrXmlLib16/XmlObjectBase.h"
 
@@ -87,12 +88,7 @@ inline void ReadJson(CXmlObjectBase& object, std::string_view document,
 
 /// Loads JSON in UTF-8 into a tree, in the JSON mode of the tree's context.
 /// @throws CZrException as CXmlDocument::LoadJsonStream and LoadXmlStream do.
-inline void ReadJson(CXmlDocument& tree, std::string_view document)
-{
-    const CBinaryData xml =
-        tree.LoadJsonStream(reinterpret_cast<const unsigned char*>(document.data()), document.length());
-    tree.LoadXmlStream(xml.GetData(), xml.GetLength());
-}
+ZRXML_API void ReadJson(CXmlDocument& tree, std::string_view document);
 
 /// The object as the bytes of a JSON document.
 /// @throws CZrException as CXmlObjectBase::ToJsonStream does.

@@ -6,6 +6,7 @@
 #include "ZrXmlLib16/XmlAttribute.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,6 +15,12 @@ namespace ZrXmlLib16 {
 
 class CXmlDocument;
 class DocumentStorage;
+
+/// A place in a text, both parts from 1; both 0 when it is not known.
+struct TextPosition {
+    std::uint32_t line;   ///< CR LF, CR and LF end one
+    std::uint32_t column; ///< code units of the text's encoding from the start of the line
+};
 
 /// An element of a CXmlDocument: name, attributes, children, and all character data directly inside it as one text.
 ///
@@ -66,6 +73,15 @@ public:
     /// The way from the root, such as /order/item[2]/price.
     std::wstring GetXPath() const;
 
+    /// @{
+    /// Where the "<" of the start tag stands in the text: line and column from 1, columns in code units of the text's
+    /// encoding (octets in UTF-8, each 16 bits in UTF-16). CR LF, CR and LF end a line; a byte-order mark is in no
+    /// column. For an element out of an internal entity the place of the reference. Both 0 when it is not known: the
+    /// element was read from Fast Infoset or JSON or built by hand, or the number is above 32 bits.
+    unsigned long GetLine() const;
+    unsigned long GetColumn() const;
+    /// @}
+
     /// Null for a root.
     CXmlElement* GetParent() const;
     /// Null for an element that was made without one.
@@ -82,7 +98,8 @@ private:
     friend class CFastInfosetReader;
     friend class NodeAccess;
 
-    CXmlElement(CXmlDocument* document, CXmlElement* parent, const XmlName* name);
+    /// An element in the memory of a document.
+    CXmlElement(CXmlElement* parent, const XmlName& name);
     static void* operator new(std::size_t size, NodePool& pool);
     static void operator delete(void* node, NodePool& pool);
 
@@ -97,7 +114,10 @@ private:
     void SetName(const std::wstring& namespaceUri, const std::wstring& localName);
     bool HasSameQName(const CXmlElement& sibling) const;
 
-    CXmlDocument* m_document;
+    union {
+        CXmlDocument* m_document; // without a storage, which else knows it
+        TextPosition m_position;  // with a storage
+    };
     CXmlElement* m_parent;
     CXmlElement* m_nextSibling;
     CXmlElement* m_previousSibling; // of the first child: the last one

@@ -8,7 +8,8 @@
 
 namespace ZrXmlLib16 {
 
-/// Base of every exception of the library: a message, the path of the node at fault, and the exception that caused it.
+/// Base of every exception of the library: a message, the path of the node at fault, its place in the text that was
+/// read, and the exception that caused it.
 ///
 /// An exception owns a copy of its cause, so a failure deep in an object tree arrives as a chain, outermost first.
 /// Exceptions are values: copies are deep, and a copy of the chain keeps the dynamic type of every cause. Not
@@ -35,6 +36,13 @@ public:
     const std::wstring& GetMessage() const;
     /// XPath of the node at fault, empty when it is not known.
     const std::wstring& GetPath() const;
+    /// @{
+    /// Where the start tag of the element at fault begins in the XML text that was read, or where the text stops being
+    /// well-formed: see CXmlElement::GetLine. Both 0 when it is not known. An exception takes over the place of its
+    /// cause.
+    unsigned long GetLine() const;
+    unsigned long GetColumn() const;
+    /// @}
     /// The cause, or null; owned by this exception.
     const CZrException* GetInnerException() const;
     /// The messages of the whole chain, outermost first, separated by single line feeds.
@@ -43,11 +51,15 @@ public:
     CZrException& operator=(const CZrException& other);
 
 private:
+    friend class ErrorPosition;
+
     void DestroyInner() noexcept;
 
     std::wstring m_message;
     std::wstring m_path;
     CZrException* m_inner;
+    unsigned long m_line;
+    unsigned long m_column;
 };
 
 } // namespace ZrXmlLib16

@@ -53,7 +53,7 @@ TEST(ErrorReport, OfAFailedRead)
         FAIL();
     } catch (const CZrException& exception) {
         EXPECT_EQ("Failed to process the element.\n  The value [caf\xC3\xA9] can not be converted to a decimal\n"
-                  "  Path: /order/item[2]",
+                  "  Path: /order/item[2]\n  At line 1, column 43",
             FormatReport(exception));
     }
 }

@@ -2,9 +2,8 @@
 // Converts documents between formats without knowing their schema.
 #include "Bytes.h"
 #include "Options.h"
-#include "ZrXmlLib16/Encoder.h"
+#include "ZrXmlLib16/ErrorReport.h"
 #include "ZrXmlLib16/Version.h"
-#include "ZrXmlLib16/ZrException.h"
 
 #include <cstdio>
 #include <exception>
@@ -21,7 +20,7 @@ std::string DisplayName(const std::string& fileName, const char* standardName)
     return fileName == Convert::STANDARD_STREAM ? standardName : fileName;
 }
 
-/// Runs a step. When it fails, the report on standard error has the cause and what lies behind it, a line each.
+/// Runs a step. When it fails, standard error gets the report of the cause.
 /// @return whether it succeeded.
 template <class Step> bool Try(const std::string& description, const Step& step)
 {
@@ -30,7 +29,7 @@ template <class Step> bool Try(const std::string& description, const Step& step)
         step();
         return true;
     } catch (const CZrException& exception) {
-        cause = ZrXmlLib16::CEncoder::UnicodeToUtf8(exception.GetFullMessage());
+        cause = FormatReport(exception);
     } catch (const std::exception& exception) {
         cause = exception.what();
     }

@@ -53,7 +53,7 @@ file(WRITE "${made}/empty.xml" "")
 string(REPEAT "<a>" 1100 text)
 string(REPEAT "</a>" 1100 end)
 file(WRITE "${made}/deep.xml" "${text}${end}")
-add_report_test(malformed 1 error "^zrconvert: cannot read .*broken.xml\n.*mismatched tag[^\n]*line 2\n$"
+add_report_test(malformed 1 error "^zrconvert: cannot read .*broken.xml\n.*mismatched tag[^\n]*line 2\n  At line 2, column 6\n$"
   ${made}/broken.xml ${made}/refused.out)
 add_report_test(empty 1 error "^zrconvert: cannot read .*empty.xml\n[^\n]*empty" ${made}/empty.xml)
 add_report_test(deep 1 error "nesting is too deep" ${made}/deep.xml)
@@ -67,7 +67,7 @@ add_report_test(disk_full 1 error "^zrconvert: cannot write /dev/full\nNo space 
 file(WRITE "${made}/two.json" "{\"a\": 1, \"b\": 2}")
 file(WRITE "${made}/cut.json" "{\"a\":\n[1,")
 add_report_test(json_roots 1 error "must hold exactly one root element" ${made}/two.json)
-add_report_test(json_cut 1 error "Expected Array terminator character '\\]' at line 2, position 3.\nPath: ..a\\[1\\]\n$"
+add_report_test(json_cut 1 error "Expected Array terminator character '\\]' at line 2, position 3.\n  Path: ..a\\[1\\]\n$"
   ${made}/cut.json)
 add_report_test(not_fast_infoset 1 error "not a Fast Infoset document" --from finf ${data}/order.xml)
 add_report_test(unknown_mode 2 error "--json-mode does not know '3'" --json-mode 3 ${made}/short.xml)
