@@ -2,6 +2,7 @@
 #include "json/JsonText.h"
 
 #include "lexical/ItemTypeTable.h"
+#include "streams/TextRun.h"
 #include "xml/TextWriting.h"
 
 #include <cstdint>
@@ -10,18 +11,18 @@ namespace ZrXmlLib16 {
 
 namespace {
 
-constexpr std::uint32_t Bit(wchar_t c)
-{
-    return std::uint32_t{1} << c;
-}
-
+/// Control characters, apart from a few.
 // kept: required behaviour. Quotation marks and backslashes are copied as well, although they end or change the string.
-constexpr std::uint32_t COPIED_CONTROLS = Bit(L'\b') | Bit(L'\t') | Bit(L'\f');
-
-bool IsCopied(std::uint32_t code)
-{
-    return code >= 32 || ((COPIED_CONTROLS >> code) & 1) != 0;
-}
+struct ControlEscapes {
+    static bool IsSpecial(wchar_t c)
+    {
+        return static_cast<std::uint32_t>(c) < 32 && c != L'\b' && c != L'\t' && c != L'\f';
+    }
+    static __m128i Candidates(__m128i four)
+    {
+        return _mm_cmpeq_epi32(_mm_and_si128(four, _mm_set1_epi32(~31)), _mm_setzero_si128());
+    }
+};
 
 void AppendControl(CTextStream& stream, std::uint32_t code)
 {
@@ -53,15 +54,18 @@ void AppendJsonString(CTextStream& stream, const std::wstring& value, const std:
 
 void AppendJsonText(CTextStream& stream, const std::wstring& text, const std::wstring& endOfLine)
 {
-    const wchar_t* run = text.c_str();
-    for (const wchar_t* position = run;; ++position) {
-        const auto code = static_cast<std::uint32_t>(*position);
-        if (IsCopied(code)) {
+    const wchar_t* position = text.data();
+    const wchar_t* const end = position + text.size();
+    while (position != end) {
+        const wchar_t* const runEnd = TextRun::EndOfPiece(position, end);
+        {
+            TextRun run(stream, static_cast<std::size_t>(runEnd - position));
+            position = run.PutPlain(position, runEnd, ControlEscapes());
+        }
+        if (position == runEnd) {
             continue;
         }
-        stream.Append(run, static_cast<unsigned long>(position - run));
-        run = position + 1;
-        switch (code) {
+        switch (const wchar_t control = *position++) {
         case 0:
             return;
         case L'\n':
@@ -70,7 +74,7 @@ void AppendJsonText(CTextStream& stream, const std::wstring& text, const std::ws
         case L'\r': // kept: required behaviour. Carriage returns are dropped.
             break;
         default:
-            AppendControl(stream, code);
+            AppendControl(stream, static_cast<std::uint32_t>(control));
         }
     }
 }

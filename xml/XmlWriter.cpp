@@ -79,8 +79,7 @@ std::wstring CXmlWriter::GetUniquePrefix(const NamespaceMap& map) const
     return NsIntToString(number);
 }
 
-CXmlWriter::CXmlWriterContext& CXmlWriter::OpenContext(
-    const std::wstring& name, const std::wstring& namespaceUri, unsigned long rootDepth)
+CXmlWriter::CXmlWriterContext& CXmlWriter::OpenContext(unsigned long rootDepth)
 {
     if (m_openContexts == m_contexts.size()) {
         m_contexts.push_back(std::unique_ptr<CXmlWriterContext>(new CXmlWriterContext));
@@ -91,7 +90,6 @@ CXmlWriter::CXmlWriterContext& CXmlWriter::OpenContext(
     } else {
         context.BeginRoot(rootDepth, m_defaultNamespace, m_namespaceMap);
     }
-    context.SetName(name, namespaceUri);
     ++m_openContexts;
     m_currentContext = &context;
     return context;

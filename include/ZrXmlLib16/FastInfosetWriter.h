@@ -55,11 +55,13 @@ public:
 
 private:
     class Output;
+    struct PendingName;
 
     // Of the current element. Its header tells whether it has attributes, so it waits for what comes next.
     enum class StartTag { Pending, InAttributes, Closed };
 
     void WriteHeader(bool hasAttributes);
+    const std::wstring& PrefixOf(const std::wstring& namespaceUri);
     bool HasNamespaces() const;
     void WriteNamespaces(unsigned int leadingBits);
     void CloseStartTag();
