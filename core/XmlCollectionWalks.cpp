@@ -7,6 +7,7 @@
 #include "ZrXmlLib16/ZrInvalidStateException.h"
 #include "ZrXmlLib16/ZrValidationException.h"
 #include "core/CoreMessages.h"
+#include "core/ItemPrefetch.h"
 
 #include <utility>
 
@@ -25,6 +26,7 @@ void CXmlCollection::ToXml_Int(
     CXmlWriter* writer, bool, const wchar_t* namespaceUri, const CSerializationContext& context, bool) const
 {
     for (const CNode* node = m_first; node; node = node->m_next) {
+        PrefetchBehind(*node);
         CXmlObjectBase::ToXml_Int(node->m_item, writer, false, namespaceUri, context, false);
     }
 }
