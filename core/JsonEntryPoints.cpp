@@ -24,6 +24,7 @@ void CXmlObjectBase::WriteJson(
 {
     CJsonTextWriter writer(stream);
     writer.m_flushesOften = isInMemory;
+    writer.m_joinsCalls = true;
     writer.Open();
     writer.SetFormat(formatted);
     writer.SetIndentChars(context.GetIndentChars().c_str());

@@ -101,7 +101,7 @@ void CJsonTextWriter::WriteStartElement(const std::wstring& name, const std::wst
         Indent(context, 0);
     }
     if (!isFurtherItem) {
-        AppendElementName(name, namespaceUri);
+        AppendElementName(name, namespaceUri, !parent);
     }
     m_hasNoMember = true;
     if (!parent && m_supportRoundtrip == JsonRoundTrip_Full) {
@@ -109,12 +109,33 @@ void CJsonTextWriter::WriteStartElement(const std::wstring& name, const std::wst
     }
 }
 
-void CJsonTextWriter::AppendElementName(const std::wstring& name, const std::wstring& namespaceUri)
+bool CJsonTextWriter::WriteTextElement(
+    const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& text, ItemType type, bool)
+{
+    CXmlWriterContext* const parent = GetCurrentContext();
+    if (!parent || parent->m_state == ContextState_CollectionStart) {
+        return false; // an array may have to begin
+    }
+    const bool isFurtherItem = ContinuesArray(*parent, name, namespaceUri);
+    BeginMember(*parent, isFurtherItem);
+    if (m_format) {
+        Indent(*parent, 1);
+    }
+    if (!isFurtherItem) {
+        AppendElementName(name, namespaceUri, false);
+    }
+    AppendJsonValue(m_stream, text, type, m_endOfLine);
+    if (m_flushesOften) {
+        FlushWhenFull(m_stream);
+    }
+    return true;
+}
+
+void CJsonTextWriter::AppendElementName(const std::wstring& name, const std::wstring& namespaceUri, bool isRoot)
 {
     const std::wstring* prefix = nullptr;
     if (m_supportRoundtrip == JsonRoundTrip_Full && IsPrefixed(namespaceUri)) {
         bool isNew = false;
-        const bool isRoot = !GetCurrentContext()->m_parent;
         prefix = isRoot ? &ObtainPrefix(namespaceUri, isNew) : &RequirePrefix(namespaceUri, name);
     }
     AppendMemberName(false, prefix, name);

@@ -47,6 +47,16 @@ bool IsCDATA(const std::wstring& value)
     return value[0] == CDATA_START[0] && value.compare(0, CDATA_START_LENGTH, CDATA_START) == 0;
 }
 
+/// @param prefix null for none.
+void PutName(TextRun& run, const std::wstring* prefix, const std::wstring& name)
+{
+    if (prefix) {
+        run.Put(*prefix);
+        run.Put(L':');
+    }
+    run.Put(name);
+}
+
 } // namespace
 
 CXmlTextWriter::CXmlTextWriter(CTextStream& stream)
@@ -202,7 +212,7 @@ void CXmlTextWriter::WriteString(const std::wstring& value, ItemType, bool isDef
     }
     if (isRaw) {
         m_stream.Append(value);
-    } else {
+    } else if (position != end) {
         AppendEscaped(position, end, false);
     }
     FlushWhenFull(m_stream);
@@ -236,6 +246,49 @@ void CXmlTextWriter::WriteEndElement()
     CloseContext();
 }
 
+bool CXmlTextWriter::WriteTextElement(
+    const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& text, ItemType, bool isDefault)
+{
+    const CXmlWriterContext* const parent = GetCurrentContext();
+    if (!parent || text.empty() || IsCDATA(text) || (isDefault && !m_writeDefaultElementValues)) {
+        return false;
+    }
+    const bool isPrefixed = IsPrefixed(namespaceUri);
+    const std::wstring* const prefix = isPrefixed ? parent->FindPrefix(namespaceUri) : nullptr;
+    if (isPrefixed && !prefix) {
+        return false; // the element invents one
+    }
+    CloseParentElm();
+    if (m_format) {
+        AppendIndentation(m_stream, m_indentChars, m_indentation, parent->m_depth + 1);
+    }
+    const std::size_t nameLength = (prefix ? prefix->size() + 1 : 0) + name.size();
+    const wchar_t* position = text.data();
+    const wchar_t* const end = position + text.size();
+    const wchar_t* const runEnd = TextRun::EndOfPiece(position, end);
+    {
+        TextRun run(m_stream, nameLength + 2 + static_cast<std::size_t>(runEnd - position));
+        run.Put(L'<');
+        PutName(run, prefix, name);
+        run.Put(L'>');
+        position = run.PutPlain(position, runEnd, MarkupEscapes(false));
+    }
+    if (position != end) {
+        AppendEscaped(position, end, false);
+    }
+    {
+        TextRun run(m_stream, nameLength + 3 + m_endOfLine.size());
+        run.PutLiteral(L"</");
+        PutName(run, prefix, name);
+        run.Put(L'>');
+        if (m_format) {
+            run.Put(m_endOfLine);
+        }
+    }
+    FlushWhenFull(m_stream);
+    return true;
+}
+
 void CXmlTextWriter::WriteAttributeString(
     const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& value, ItemType)
 {
@@ -254,11 +307,7 @@ void CXmlTextWriter::WriteAttributeString(
         const std::size_t prefixLength = prefix ? prefix->size() + 1 : 0;
         TextRun run(m_stream, 4 + prefixLength + name.size() + static_cast<std::size_t>(runEnd - position));
         run.Put(L' ');
-        if (prefix) {
-            run.Put(*prefix);
-            run.Put(L':');
-        }
-        run.Put(name);
+        PutName(run, prefix, name);
         run.PutLiteral(L"=\"");
         position = run.PutPlain(position, runEnd, MarkupEscapes(true));
         if (position == end) {

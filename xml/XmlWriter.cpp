@@ -3,6 +3,7 @@
 
 #include "ZrXmlLib16/ZrException.h"
 #include "core/NillableMemory.h"
+#include "core/TextEquality.h"
 #include "xml/InventedPrefix.h"
 #include "xml/XmlMessages.h"
 #include "xml/XmlNamespaces.h"
@@ -15,6 +16,7 @@ CXmlWriter::CXmlWriter(const wchar_t*)
     : m_currentContext(nullptr)
     , m_openContexts(0)
     , m_nillables(new CNillableMemory)
+    , m_joinsCalls(false)
 {
     m_namespaceMap.emplace(XML_NAMESPACE_URI, L"xml");
 }
@@ -79,6 +81,11 @@ std::wstring CXmlWriter::GetUniquePrefix(const NamespaceMap& map) const
     return NsIntToString(number);
 }
 
+bool CXmlWriter::WriteTextElement(const std::wstring&, const std::wstring&, const std::wstring&, ItemType, bool)
+{
+    return false;
+}
+
 CXmlWriter::CXmlWriterContext& CXmlWriter::OpenContext(unsigned long rootDepth)
 {
     if (m_openContexts == m_contexts.size()) {
@@ -103,7 +110,7 @@ void CXmlWriter::CloseContext() noexcept
 
 bool CXmlWriter::IsPrefixed(const std::wstring& namespaceUri) const
 {
-    return !namespaceUri.empty() && namespaceUri != m_currentContext->m_scope->m_defaultNamespace;
+    return !namespaceUri.empty() && !AreEqual(namespaceUri, m_currentContext->m_scope->m_defaultNamespace);
 }
 
 const std::wstring& CXmlWriter::ObtainPrefix(const std::wstring& namespaceUri, bool& isNew)

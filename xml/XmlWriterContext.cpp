@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ZrXmlLib16/XmlWriter.h"
 #include "core/TextArgument.h"
+#include "core/TextEquality.h"
 #include "xml/InventedPrefix.h"
 
 namespace ZrXmlLib16 {
@@ -157,7 +158,7 @@ const CXmlWriter::NamespaceMap::value_type* CXmlWriter::CXmlWriterContext::FindE
 const std::wstring* CXmlWriter::CXmlWriterContext::FindPrefix(const std::wstring& namespaceUri) const
 {
     const NamespaceMap::value_type*& lastFound = m_scope->m_lastFound;
-    if (!lastFound || lastFound->first != namespaceUri) {
+    if (!lastFound || !AreEqual(lastFound->first, namespaceUri)) {
         const NamespaceMap::value_type* const found = FindEntry(namespaceUri);
         if (!found) {
             return nullptr;

@@ -86,6 +86,8 @@ private:
         std::wstring namespaceUri;
     };
 
+    bool WriteTextElement(const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& text,
+        ItemType type, bool isDefault) override;
     bool IsArrayOpen(const CXmlWriterContext& element) const;
     bool ContinuesArray(
         const CXmlWriterContext& parent, const std::wstring& name, const std::wstring& namespaceUri) const;
@@ -93,7 +95,7 @@ private:
     void EndArray(CXmlWriterContext& element);
     void BeginMember(CXmlWriterContext& element, bool continuesArray);
     void BeginAttribute();
-    void AppendElementName(const std::wstring& name, const std::wstring& namespaceUri);
+    void AppendElementName(const std::wstring& name, const std::wstring& namespaceUri, bool isRoot);
     void AppendMemberName(bool isMarked, const std::wstring* prefix, const std::wstring& name);
     void AppendRootDeclarations(CXmlWriterContext& root);
     void AppendDeclaration(const std::wstring& prefix, const std::wstring& namespaceUri);

@@ -69,6 +69,8 @@ public:
     void SetWriteDefaultElementValues(bool value);
 
 private:
+    bool WriteTextElement(const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& text,
+        ItemType type, bool isDefault) override;
     void CloseParentElm();
     void KeepName(const std::wstring* prefix, const std::wstring& name);
     void AppendEscaped(const std::wstring& text, bool isAttribute);

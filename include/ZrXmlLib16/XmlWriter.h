@@ -159,6 +159,12 @@ protected:
 
 private:
     friend class ZrXmlLib16Data::CRecordAccess;
+    friend class CXmlObjectBase;
+
+    /// Writes an element that is nothing but text, if that takes less than start, text and end; else nothing.
+    /// @return whether it was written.
+    virtual bool WriteTextElement(const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& text,
+        ItemType type, bool isDefault);
 
     std::wstring m_defaultNamespace;
     CXmlWriterContext* m_currentContext;
@@ -167,7 +173,9 @@ private:
     std::size_t m_openContexts;
     std::wstring m_scratch;     // for the values that records format
     std::wstring m_nameScratch; // for the names of objects
+    std::wstring m_namespaceScratch;
     std::unique_ptr<CNillableMemory> m_nillables;
+    bool m_joinsCalls; // no class overrides the single calls, so WriteTextElement may stand for them
 };
 
 } // namespace ZrXmlLib16
