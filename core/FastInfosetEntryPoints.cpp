@@ -18,6 +18,7 @@ CBinaryData CXmlObjectBase::ToFastInfosetStream(
     CheckVersion();
     CBinaryStream stream;
     CFastInfosetWriter writer(CFormatSettings::FastInfoset(context), stream);
+    writer.m_joinsCalls = true;
     writer.Open();
     writer.WriteStartDocument(declaration);
     ToXml_Int(&writer, true, GetNamespace().c_str(), context, false);

@@ -23,6 +23,8 @@
 #include "metadata/RecordAccess.h"
 #include "values/BorrowingVariant.h"
 
+#include <cwchar>
+
 namespace ZrXmlLib16 {
 
 using ZrXmlLib16Data::CAttributeInfo;
@@ -75,8 +77,10 @@ void CXmlGeneratedClass::WriteStartTag(CXmlWriter* writer, bool isRoot, const wc
     if (isRoot) {
         WriteBeforeRoot(*writer, context, context.m_defaultNamespaceUri);
     }
-    std::wstring& uri = ZrXmlLib16Data::CRecordAccess::Scratch(*writer);
-    uri = namespaceUri;
+    std::wstring& uri = ZrXmlLib16Data::CRecordAccess::NamespaceScratch(*writer);
+    if (std::wcscmp(uri.c_str(), namespaceUri) != 0) {
+        uri = namespaceUri;
+    }
     std::wstring& name = ZrXmlLib16Data::CRecordAccess::NameScratch(*writer);
     m_elementName.CopyTo(name);
     writer->WriteStartElement(name, uri);

@@ -19,6 +19,15 @@ inline void PrefetchItem(const CXmlCollection::CNode* node)
     }
 }
 
+/// For a walk from node to node: has the item of the next node loaded, and the node behind that one.
+inline void PrefetchBehind(const CXmlCollection::CNode& node)
+{
+    if (const CXmlCollection::CNode* const next = node.GetNext()) {
+        PrefetchItem(next);
+        __builtin_prefetch(next->GetNext());
+    }
+}
+
 } // namespace ZrXmlLib16
 
 #endif

@@ -24,7 +24,7 @@ private:
         std::ptrdiff_t offset;
         bool isNillable;
     };
-    static constexpr unsigned INDEX_BITS = 4;
+    static constexpr unsigned INDEX_BITS = 6;
 
     Entry m_entries[std::size_t(1) << INDEX_BITS] = {};
 };

@@ -8,6 +8,7 @@
 #include "ZrXmlLib16/ZrValidationException.h"
 #include "core/CoreMessages.h"
 #include "core/ErrorPosition.h"
+#include "core/ItemPrefetch.h"
 #include "xml/NodeAccess.h"
 
 #include <utility>
@@ -27,6 +28,7 @@ void CXmlCollection::ToXml_Int(
     CXmlWriter* writer, bool, const wchar_t* namespaceUri, const CSerializationContext& context, bool) const
 {
     for (const CNode* node = m_first; node; node = node->m_next) {
+        PrefetchBehind(*node);
         CXmlObjectBase::ToXml_Int(node->m_item, writer, false, namespaceUri, context, false);
     }
 }

@@ -22,6 +22,7 @@ void CXmlObjectBase::WriteDocument(
     CTextStream& stream, bool includeHeader, bool formatted, EOLType eol, const CSerializationContext& context) const
 {
     CXmlTextWriter writer(stream);
+    writer.m_joinsCalls = true;
     writer.Open();
     writer.SetFormat(formatted);
     writer.SetIndentChars(context.GetIndentChars().c_str());

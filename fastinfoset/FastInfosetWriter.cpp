@@ -44,6 +44,13 @@ bool IsDeclared(const CXmlWriter::NamespaceMap::value_type& mapping)
 
 } // namespace
 
+/// The name of an element that is not written yet. The texts count only when the name has no index.
+struct CFastInfosetWriter::PendingName {
+    WriterVocabulary::NameIndexes indexes;
+    std::wstring localName;
+    std::wstring namespaceUri;
+};
+
 /// The octets of the document and what writes its names and values.
 class CFastInfosetWriter::Output {
 public:
@@ -57,6 +64,7 @@ public:
     const CFastInfosetContext& m_context;
     OctetWriter m_octets;
     ItemWriter m_items;
+    PendingName m_pending;
 };
 
 CFastInfosetWriter::CFastInfosetWriter(const CFastInfosetContext& context, CBinaryStream& stream)
@@ -113,9 +121,47 @@ void CFastInfosetWriter::WriteStartElement(const std::wstring& name, const std::
     OctetWriter::FailureGuard guard(m_output->m_octets);
     CloseStartTag();
     WriteOwedTerminator();
-    OpenContext(name, namespaceUri, 0);
+    const CXmlWriterContext& context = OpenContext(0);
     m_startTag = StartTag::Pending;
+    PendingName& pending = m_output->m_pending;
+    // The namespaces of the root come before its name and take their indexes first.
+    if (context.m_parent) {
+        pending.indexes = m_output->m_items.FindElementName(PrefixOf(namespaceUri), namespaceUri, name);
+    }
+    if (!context.m_parent || pending.indexes.name == 0) {
+        pending.localName = name;
+        pending.namespaceUri = namespaceUri;
+    }
     guard.Complete();
+}
+
+bool CFastInfosetWriter::WriteTextElement(
+    const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& text, ItemType type, bool)
+{
+    const CXmlWriterContext* const parent = GetCurrentContext();
+    const std::wstring* prefix = parent ? &NoPrefix() : nullptr;
+    if (parent && IsPrefixed(namespaceUri)) {
+        prefix = parent->FindPrefix(namespaceUri);
+    }
+    if (!prefix) {
+        return false; // a root, or an element that invents a prefix
+    }
+    OctetWriter::FailureGuard guard(m_output->m_octets);
+    CloseStartTag();
+    WriteOwedTerminator();
+    ItemWriter& items = m_output->m_items;
+    const WriterVocabulary::NameIndexes indexes = items.FindElementName(*prefix, namespaceUri, name);
+    if (indexes.name != 0) {
+        items.WriteElementIndex(0, indexes.name);
+    } else {
+        items.WriteElementName(0, indexes, *prefix, namespaceUri, name);
+    }
+    if (!text.empty()) {
+        items.WriteCharacterChunk(text, type);
+    }
+    m_isTerminatorOwed = true;
+    guard.Complete();
+    return true;
 }
 
 void CFastInfosetWriter::WriteString(const std::wstring& text, ItemType type, bool)
@@ -184,17 +230,31 @@ void CFastInfosetWriter::WriteHeader(bool hasAttributes)
         return;
     }
     m_startTag = hasAttributes ? StartTag::InAttributes : StartTag::Closed;
-    const CXmlWriterContext& context = *GetCurrentContext();
+    PendingName& pending = m_output->m_pending;
+    ItemWriter& items = m_output->m_items;
     unsigned int leadingBits = hasAttributes ? ATTRIBUTES_PRESENT : 0;
-    if (!context.m_parent && HasNamespaces()) {
-        // kept: required behaviour. The octet in front of the namespaces tells of the attributes, not the name's.
-        WriteNamespaces(leadingBits);
-        leadingBits = 0;
+    if (!GetCurrentContext()->m_parent) {
+        if (HasNamespaces()) {
+            // kept: required behaviour. The octet in front of the namespaces tells of the attributes, not the name's.
+            WriteNamespaces(leadingBits);
+            leadingBits = 0;
+        }
+        const std::wstring& prefix = PrefixOf(pending.namespaceUri);
+        pending.indexes = items.FindElementName(prefix, pending.namespaceUri, pending.localName);
     }
+    if (pending.indexes.name != 0) {
+        items.WriteElementIndex(leadingBits, pending.indexes.name);
+    } else {
+        const std::wstring& prefix = PrefixOf(pending.namespaceUri);
+        items.WriteElementName(leadingBits, pending.indexes, prefix, pending.namespaceUri, pending.localName);
+    }
+}
+
+/// The prefix of the current element when it is in that namespace.
+const std::wstring& CFastInfosetWriter::PrefixOf(const std::wstring& namespaceUri)
+{
     bool isNew = false;
-    const std::wstring& prefix =
-        IsPrefixed(context.m_namespaceUri) ? ObtainPrefix(context.m_namespaceUri, isNew) : NoPrefix();
-    m_output->m_items.WriteElementName(leadingBits, prefix, context.m_namespaceUri, context.m_localName);
+    return IsPrefixed(namespaceUri) ? ObtainPrefix(namespaceUri, isNew) : NoPrefix();
 }
 
 bool CFastInfosetWriter::HasNamespaces() const

@@ -8,7 +8,9 @@ namespace ZrXmlLib16 {
 
 namespace {
 
-// In front of a literal name: which of its parts follow.
+// In front of a literal name: what it names, and which of its parts follow.
+constexpr unsigned int LITERAL_ELEMENT_NAME = 0x3C;
+constexpr unsigned int LITERAL_ATTRIBUTE_NAME = 0x78;
 constexpr unsigned int PREFIX_AND_NAMESPACE_FOLLOW = 0x03;
 constexpr unsigned int NAMESPACE_FOLLOWS = 0x01;
 
@@ -16,15 +18,6 @@ constexpr unsigned int IDENTIFYING_INDEX = 0x80;
 constexpr unsigned int ATTRIBUTE_VALUE_INDEX = 0x80;
 
 } // namespace
-
-struct ItemWriter::NameForm {
-    VocabularyTable table;
-    const Codec& indexCodec;
-    unsigned int literalBits;
-};
-
-const ItemWriter::NameForm ItemWriter::ELEMENT_NAME = {VocabularyTable::ElementNames, INTEGER_ON_BIT_3, 0x3C};
-const ItemWriter::NameForm ItemWriter::ATTRIBUTE_NAME = {VocabularyTable::AttributeNames, INTEGER_ON_BIT_2, 0x78};
 
 /// How a value is laid out that starts on some bit: the bits in front of an index, of a text that the reader shall add
 /// to the table and of one it shall not; then the encoded string, with the bits that tell its encoding and where in the
@@ -72,31 +65,31 @@ void ItemWriter::WriteIdentifyingString(unsigned long index, const std::wstring&
     }
 }
 
-void ItemWriter::WriteElementName(unsigned int leadingBits, const std::wstring& prefix,
-    const std::wstring& namespaceUri, const std::wstring& localName)
+void ItemWriter::WriteElementName(unsigned int leadingBits, const WriterVocabulary::NameIndexes& indexes,
+    const std::wstring& prefix, const std::wstring& namespaceUri, const std::wstring& localName)
 {
-    WriteName(ELEMENT_NAME, leadingBits, prefix, namespaceUri, localName);
+    WriteName(leadingBits | LITERAL_ELEMENT_NAME, indexes, prefix, namespaceUri, localName);
 }
 
 void ItemWriter::WriteAttributeName(
     const std::wstring& prefix, const std::wstring& namespaceUri, const std::wstring& localName)
 {
-    WriteName(ATTRIBUTE_NAME, 0, prefix, namespaceUri, localName);
+    const WriterVocabulary::NameIndexes indexes =
+        m_vocabulary.FindOrAddName(VocabularyTable::AttributeNames, prefix, namespaceUri, localName);
+    if (indexes.name != 0) {
+        m_octets.PutCode(INTEGER_ON_BIT_2, indexes.name, 0);
+    } else {
+        WriteName(LITERAL_ATTRIBUTE_NAME, indexes, prefix, namespaceUri, localName);
+    }
 }
 
-void ItemWriter::WriteName(const NameForm& form, unsigned int leadingBits, const std::wstring& prefix,
-    const std::wstring& namespaceUri, const std::wstring& localName)
+void ItemWriter::WriteName(unsigned int literalBits, const WriterVocabulary::NameIndexes& indexes,
+    const std::wstring& prefix, const std::wstring& namespaceUri, const std::wstring& localName)
 {
-    const WriterVocabulary::NameIndexes indexes =
-        m_vocabulary.FindOrAddName(form.table, prefix, namespaceUri, localName);
-    if (indexes.name != 0) {
-        m_octets.PutCode(form.indexCodec, indexes.name, leadingBits);
-        return;
-    }
     const unsigned int parts = !prefix.empty() ? PREFIX_AND_NAMESPACE_FOLLOW
         : !namespaceUri.empty()                ? NAMESPACE_FOLLOWS
                                                : 0;
-    m_octets.Put(leadingBits | form.literalBits | parts);
+    m_octets.Put(literalBits | parts);
     if (!prefix.empty()) {
         WriteIdentifyingString(indexes.prefix, prefix);
     }

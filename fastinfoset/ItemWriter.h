@@ -26,9 +26,21 @@ public:
     /// A prefix, namespace name or local name (X.891, C.13).
     /// @throws CZrException for an empty text.
     void WriteIdentifyingString(VocabularyTable table, const std::wstring& text);
-    /// X.891, C.18. @param leadingBits the first two bits.
-    void WriteElementName(unsigned int leadingBits, const std::wstring& prefix, const std::wstring& namespaceUri,
-        const std::wstring& localName);
+    /// @{
+    /// X.891, C.18. A name is looked up, which adds it, and then written by its index or, when it had none, in full.
+    /// @param leadingBits the first two bits.
+    WriterVocabulary::NameIndexes FindElementName(
+        const std::wstring& prefix, const std::wstring& namespaceUri, const std::wstring& localName)
+    {
+        return m_vocabulary.FindOrAddName(VocabularyTable::ElementNames, prefix, namespaceUri, localName);
+    }
+    void WriteElementIndex(unsigned int leadingBits, unsigned long index)
+    {
+        m_octets.PutCode(INTEGER_ON_BIT_3, index, leadingBits);
+    }
+    void WriteElementName(unsigned int leadingBits, const WriterVocabulary::NameIndexes& indexes,
+        const std::wstring& prefix, const std::wstring& namespaceUri, const std::wstring& localName);
+    /// @}
     /// X.891, C.17.
     void WriteAttributeName(
         const std::wstring& prefix, const std::wstring& namespaceUri, const std::wstring& localName);
@@ -39,17 +51,14 @@ public:
     void WriteCharacterChunk(const std::wstring& text, ItemType type);
 
 private:
-    struct NameForm;
     struct ValueForm;
 
-    static const NameForm ELEMENT_NAME;
-    static const NameForm ATTRIBUTE_NAME;
     static const ValueForm ATTRIBUTE_VALUE;
     static const ValueForm CHARACTER_CHUNK;
     static constexpr unsigned long ALPHABET_COUNT = 2;
 
     void WriteIdentifyingString(unsigned long index, const std::wstring& text);
-    void WriteName(const NameForm& form, unsigned int leadingBits, const std::wstring& prefix,
+    void WriteName(unsigned int literalBits, const WriterVocabulary::NameIndexes& indexes, const std::wstring& prefix,
         const std::wstring& namespaceUri, const std::wstring& localName);
     void WriteValue(const ValueForm& form, const std::wstring& text, unsigned long maximumAddLength, ItemType type);
     void WriteEncodedString(const ValueForm& form, unsigned int leadingBits, const std::wstring& text, ItemType type);

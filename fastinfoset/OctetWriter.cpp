@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include <emmintrin.h>
+
 namespace ZrXmlLib16 {
 
 namespace {
@@ -15,11 +17,25 @@ namespace {
 // A character takes at most four octets.
 constexpr unsigned long PIECE_LENGTH = 1024;
 
-/// Writes one octet per character, whatever the characters are. @return whether they were all ASCII.
-bool NarrowAscii(const wchar_t* text, unsigned long n, unsigned char* __restrict out)
+/// Writes one octet per character. @return whether they were all ASCII; otherwise the octets say nothing.
+bool NarrowAscii(const wchar_t* text, unsigned long n, unsigned char* out)
 {
+    constexpr unsigned long STEP = 4;
+    __m128i all = _mm_setzero_si128();
+    unsigned long i = 0;
+    for (; n - i >= STEP; i += STEP) {
+        const __m128i four = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text + i));
+        all = _mm_or_si128(all, four);
+        const __m128i units = _mm_packs_epi32(four, four);
+        const int octets = _mm_cvtsi128_si32(_mm_packus_epi16(units, units));
+        std::memcpy(out + i, &octets, STEP);
+    }
+    const __m128i beyondAscii = _mm_and_si128(all, _mm_set1_epi32(~0x7F));
+    if (_mm_movemask_epi8(_mm_cmpeq_epi32(beyondAscii, _mm_setzero_si128())) != 0xFFFF) {
+        return false;
+    }
     std::uint32_t bits = 0;
-    for (unsigned long i = 0; i < n; ++i) {
+    for (; i < n; ++i) {
         const auto character = static_cast<std::uint32_t>(text[i]);
         bits |= character;
         out[i] = static_cast<unsigned char>(character);

@@ -2,6 +2,7 @@
 #include "fastinfoset/WriterVocabulary.h"
 
 #include "ZrXmlLib16/FastInfosetContext.h"
+#include "core/TextEquality.h"
 #include "fastinfoset/CodecRanges.h"
 
 namespace ZrXmlLib16 {
@@ -29,6 +30,7 @@ WriterVocabulary::WriterVocabulary(const CFastInfosetContext& context)
     : m_base(BaseOf(context))
     , m_nextSpace(FIRST_UNUSED_SPACE)
     , m_unqualified{{}, {}, UNQUALIFIED_NAMES, 0, 0}
+    , m_recentNames{}
     , m_lastScope(m_unqualified)
 {
     CFIVocabulary& base = BaseOf(context);
@@ -58,9 +60,16 @@ WriterVocabulary::NameIndexes WriterVocabulary::FindOrAddName(
     VocabularyTable table, const std::wstring& prefix, const std::wstring& namespaceUri, const std::wstring& localName)
 {
     Scope& scope = ScopeOf(prefix, namespaceUri);
-    IndexTable::Key key(scope.space + (table == VocabularyTable::ElementNames ? 0 : 1), localName);
-    NameIndexes indexes{m_indexes.Find(key), 0, 0, 0};
-    if (indexes.name != 0) {
+    const std::uint32_t space = scope.space + (table == VocabularyTable::ElementNames ? 0 : 1);
+    RecentName& recent = RecentSlot(space, localName);
+    if (recent.index != 0 && recent.space == space && AreEqual(recent.localName, localName)) {
+        return {recent.index, 0, 0, 0};
+    }
+    IndexTable::Key key(space, localName);
+    const std::uint32_t index = m_indexes.Find(key);
+    NameIndexes indexes{index, 0, 0, 0};
+    if (index != 0) {
+        recent = {key.GetText(), space, index};
         return indexes;
     }
     if (!GetTable(table).base->empty()) {
@@ -87,6 +96,14 @@ WriterVocabulary::NameIndexes WriterVocabulary::FindOrAddName(
     return indexes;
 }
 
+/// The only place where a name is kept in mind.
+WriterVocabulary::RecentName& WriterVocabulary::RecentSlot(std::uint32_t space, const std::wstring& localName)
+{
+    const std::size_t length = localName.size();
+    const std::size_t ends = length == 0 ? 0 : static_cast<std::size_t>(localName.front() + 7 * localName.back());
+    return m_recentNames[(space + 3 * length + ends) % RECENT_COUNT];
+}
+
 bool WriterVocabulary::FindInBase(
     const Table& table, IndexTable::Key& key, const std::wstring& baseKey, unsigned long& index)
 {
@@ -110,7 +127,7 @@ WriterVocabulary::Scope& WriterVocabulary::ScopeOf(const std::wstring& prefix, c
     if (namespaceUri.empty() && prefix.empty()) {
         return m_unqualified;
     }
-    if (namespaceUri != m_lastScope.namespaceUri || prefix != m_lastScope.prefix) {
+    if (!AreEqual(namespaceUri, m_lastScope.namespaceUri) || !AreEqual(prefix, m_lastScope.prefix)) {
         IndexTable::Key namespaceKey(NAMESPACES_OF_SCOPES, namespaceUri);
         const std::uint32_t prefixes = FindOrAddSpaces(namespaceKey, 1);
         IndexTable::Key prefixKey(prefixes, prefix);

@@ -68,6 +68,15 @@ private:
         unsigned long namespaceIndex;
     };
 
+    /// A name that has an index. The few names of a document come back again and again.
+    struct RecentName {
+        std::wstring_view localName; // of the index table
+        std::uint32_t space;
+        std::uint32_t index; // 0: nothing is here yet
+    };
+    static constexpr std::size_t RECENT_COUNT = 64;
+
+    RecentName& RecentSlot(std::uint32_t space, const std::wstring& localName);
     Table& GetTable(VocabularyTable table) { return m_tables[static_cast<std::size_t>(table)]; }
     unsigned long FindOrAdd(VocabularyTable table, IndexTable::Key key, const std::wstring& text);
     void Add(Table& table, IndexTable::Key& key);
@@ -80,6 +89,7 @@ private:
     IndexTable m_indexes;      // what the document added and what was found in the base
     std::uint32_t m_nextSpace; // of the index table
     Scope m_unqualified;
+    RecentName m_recentNames[RECENT_COUNT];
     Scope m_lastScope;      // of the last name with a prefix or namespace
     std::wstring m_baseKey; // reused
 };

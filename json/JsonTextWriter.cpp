@@ -5,6 +5,7 @@
 #include "ZrXmlLib16/ZrException.h"
 #include "ZrXmlLib16/ZrInvalidStateException.h"
 #include "core/TextArgument.h"
+#include "streams/TextRun.h"
 #include "xml/InstanceAttributeNames.h"
 #include "xml/TextWriting.h"
 #include "xml/XmlMessages.h"
@@ -91,12 +92,16 @@ void CJsonTextWriter::WriteStartElement(const std::wstring& name, const std::wst
     if (parent) {
         BeginMember(*parent, isFurtherItem);
     }
-    CXmlWriterContext& context = OpenContext(name, namespaceUri, ROOT_DEPTH);
+    CXmlWriterContext& context = OpenContext(ROOT_DEPTH);
+    if (parent && parent->m_state == ContextState_CollectionStart) {
+        m_firstItemName = name;
+        m_firstItemNamespace = namespaceUri;
+    }
     if (m_format) {
         Indent(context, 0);
     }
     if (!isFurtherItem) {
-        AppendElementName(context, !parent);
+        AppendElementName(name, namespaceUri, !parent);
     }
     m_hasNoMember = true;
     if (!parent && m_supportRoundtrip == JsonRoundTrip_Full) {
@@ -104,18 +109,53 @@ void CJsonTextWriter::WriteStartElement(const std::wstring& name, const std::wst
     }
 }
 
-void CJsonTextWriter::AppendElementName(CXmlWriterContext& context, bool isRoot)
+bool CJsonTextWriter::WriteTextElement(
+    const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& text, ItemType type, bool)
 {
-    m_stream.Append(L'"');
-    if (m_supportRoundtrip == JsonRoundTrip_Full && IsPrefixed(context.m_namespaceUri)) {
-        bool isNew = false;
-        AppendName(isRoot ? ObtainPrefix(context.m_namespaceUri, isNew)
-                          : RequirePrefix(context.m_namespaceUri, context.m_localName),
-            context.m_localName);
-    } else {
-        m_stream.Append(context.m_localName);
+    CXmlWriterContext* const parent = GetCurrentContext();
+    if (!parent || parent->m_state == ContextState_CollectionStart) {
+        return false; // an array may have to begin
     }
-    AppendLiteral(m_stream, L"\": ");
+    const bool isFurtherItem = ContinuesArray(*parent, name, namespaceUri);
+    BeginMember(*parent, isFurtherItem);
+    if (m_format) {
+        Indent(*parent, 1);
+    }
+    if (!isFurtherItem) {
+        AppendElementName(name, namespaceUri, false);
+    }
+    AppendJsonValue(m_stream, text, type, m_endOfLine);
+    if (m_flushesOften) {
+        FlushWhenFull(m_stream);
+    }
+    return true;
+}
+
+void CJsonTextWriter::AppendElementName(const std::wstring& name, const std::wstring& namespaceUri, bool isRoot)
+{
+    const std::wstring* prefix = nullptr;
+    if (m_supportRoundtrip == JsonRoundTrip_Full && IsPrefixed(namespaceUri)) {
+        bool isNew = false;
+        prefix = isRoot ? &ObtainPrefix(namespaceUri, isNew) : &RequirePrefix(namespaceUri, name);
+    }
+    AppendMemberName(false, prefix, name);
+}
+
+/// @param prefix null for none.
+void CJsonTextWriter::AppendMemberName(bool isMarked, const std::wstring* prefix, const std::wstring& name)
+{
+    constexpr std::size_t PUNCTUATION = 6;
+    TextRun run(m_stream, PUNCTUATION + (prefix ? prefix->size() : 0) + name.size());
+    run.Put(L'"');
+    if (isMarked) {
+        run.Put(L'@');
+    }
+    if (prefix) {
+        run.Put(*prefix);
+        run.Put(L':');
+    }
+    run.Put(name);
+    run.PutLiteral(L"\": ");
 }
 
 void CJsonTextWriter::AppendRootDeclarations(CXmlWriterContext& root)
@@ -183,16 +223,9 @@ void CJsonTextWriter::WriteAttributeString(
     const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& value, ItemType type)
 {
     BeginAttribute();
-    m_stream.Append(L'"');
-    if (m_supportRoundtrip != JsonRoundTrip_Plain) {
-        m_stream.Append(L'@');
-    }
-    if (m_supportRoundtrip == JsonRoundTrip_Full && !namespaceUri.empty()) {
-        AppendName(RequirePrefix(namespaceUri, name), name);
-    } else {
-        m_stream.Append(name);
-    }
-    AppendLiteral(m_stream, L"\": ");
+    const bool isPrefixed = m_supportRoundtrip == JsonRoundTrip_Full && !namespaceUri.empty();
+    AppendMemberName(
+        m_supportRoundtrip != JsonRoundTrip_Plain, isPrefixed ? &RequirePrefix(namespaceUri, name) : nullptr, name);
     AppendJsonValue(m_stream, value, type, m_endOfLine);
 }
 
@@ -257,8 +290,8 @@ void CJsonTextWriter::BeginArray(const CXmlWriterContext& item)
     }
     OpenArray& array = m_arrays[m_openArrays];
     array.owner = owner;
-    array.localName = item.m_localName;
-    array.namespaceUri = item.m_namespaceUri;
+    array.localName = m_firstItemName;
+    array.namespaceUri = m_firstItemNamespace;
     ++m_openArrays;
     BeginLine(item, 0);
 }
@@ -306,13 +339,6 @@ void CJsonTextWriter::BeginAttribute()
     if (m_format) {
         Indent(*context, 1);
     }
-}
-
-void CJsonTextWriter::AppendName(const std::wstring& prefix, const std::wstring& name)
-{
-    m_stream.Append(prefix);
-    m_stream.Append(L':');
-    m_stream.Append(name);
 }
 
 void CJsonTextWriter::BeginLine(const CXmlWriterContext& element, unsigned long extraDepth)

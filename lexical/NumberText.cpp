@@ -43,6 +43,7 @@ struct Magnitude {
 
 Magnitude ScanMagnitude(const std::wstring& text)
 {
+    constexpr unsigned long long LARGEST_TENTH = ULLONG_MAX / 10;
     const wchar_t* position = text.data();
     const wchar_t* const end = position + text.length();
     Magnitude result;
@@ -50,7 +51,7 @@ Magnitude ScanMagnitude(const std::wstring& text)
     const wchar_t* const firstDigit = position;
     for (; position != end && IsDigit(*position); ++position) {
         const auto digit = static_cast<unsigned long long>(*position - L'0');
-        if (result.value > (ULLONG_MAX - digit) / 10) {
+        if (result.value > LARGEST_TENTH || (result.value == LARGEST_TENTH && digit > ULLONG_MAX % 10)) {
             result.overflow = true;
         } else {
             result.value = result.value * 10 + digit;
@@ -127,6 +128,22 @@ template <std::size_t Size> void AppendAscii(const char (&buffer)[Size], const c
     text.append(wide, static_cast<std::size_t>(out - wide));
 }
 
+void AppendDigits(unsigned long long value, bool isNegative, std::wstring& text)
+{
+    constexpr std::size_t SIGN_AND_DIGITS = 21;
+    wchar_t buffer[SIGN_AND_DIGITS];
+    wchar_t* const end = buffer + SIGN_AND_DIGITS;
+    wchar_t* begin = end;
+    do {
+        *--begin = static_cast<wchar_t>(L'0' + value % 10);
+        value /= 10;
+    } while (value != 0);
+    if (isNegative) {
+        *--begin = L'-';
+    }
+    text.append(begin, static_cast<std::size_t>(end - begin));
+}
+
 } // namespace
 
 // kept: required behaviour. Leading blanks and a plus sign are taken as the C conversion takes them.
@@ -175,14 +192,14 @@ bool ScanDouble(const std::wstring& text, double& value)
 
 void AppendInteger(long long value, std::wstring& text)
 {
-    char buffer[24];
-    AppendAscii(buffer, std::to_chars(buffer, buffer + sizeof buffer, value).ptr, text);
+    // Negated as unsigned: LLONG_MIN has no positive counterpart.
+    const auto bits = static_cast<unsigned long long>(value);
+    AppendDigits(value < 0 ? 0 - bits : bits, value < 0, text);
 }
 
 void AppendUnsigned(unsigned long long value, std::wstring& text)
 {
-    char buffer[24];
-    AppendAscii(buffer, std::to_chars(buffer, buffer + sizeof buffer, value).ptr, text);
+    AppendDigits(value, false, text);
 }
 
 void AppendGeneral(double value, int precision, std::wstring& text)

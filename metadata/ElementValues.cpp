@@ -75,6 +75,9 @@ bool CElementInfo::WriteNilElement(CXmlWriter* writer) const
 
 void CElementInfo::WriteElement(CXmlWriter* writer, const std::wstring& text, ItemType type, bool isDefault) const
 {
+    if (CRecordAccess::WriteTextElement(*writer, m_elementName, m_namespace, text, type, isDefault)) {
+        return;
+    }
     writer->WriteStartElement(m_elementName, m_namespace);
     writer->WriteString(text, type, isDefault);
     writer->WriteEndElement();
@@ -98,7 +101,12 @@ bool CElementInfo::ElementToXmlCol(
 {
     ZrVariant value;
     ReadProperty(object, value);
-    const CXmlCollectionBase* collection = value.BorrowXmlCollection();
+    return WriteItems(value.BorrowXmlCollection(), context, writer);
+}
+
+bool CElementInfo::WriteItems(
+    const CXmlCollectionBase* collection, const CSerializationContext& context, CXmlWriter* writer) const
+{
     if (!collection || collection->GetCount() <= 0) {
         return false;
     }

@@ -29,10 +29,10 @@ public:
     {
         return record.ElementToXmlCls(context, object, writer, false);
     }
-    static bool WriteCollection(const CElementInfo& record, const ZrXmlLib16::CSerializationContext& context,
-        const ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlWriter* writer)
+    static bool WriteItems(const CElementInfo& record, const ZrXmlLib16::CXmlCollectionBase* collection,
+        const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlWriter* writer)
     {
-        return record.ElementToXmlCol(context, object, writer);
+        return record.WriteItems(collection, context, writer);
     }
     static void WriteAttributes(const CElementInfo& record, const ZrXmlLib16::CXmlObjectBase* child,
         ZrXmlLib16::CXmlWriter* writer, const ZrXmlLib16::CSerializationContext& context)
@@ -95,7 +95,14 @@ public:
 
     /// A text that records may use between two calls of the writer; keeps its capacity from one value to the next.
     static std::wstring& Scratch(ZrXmlLib16::CXmlWriter& writer) { return writer.m_scratch; }
+    /// Two more, for the name and the namespace of an object. The namespace is mostly that of the object before.
+    static std::wstring& NamespaceScratch(ZrXmlLib16::CXmlWriter& writer) { return writer.m_namespaceScratch; }
     static std::wstring& NameScratch(ZrXmlLib16::CXmlWriter& writer) { return writer.m_nameScratch; }
+    static bool WriteTextElement(ZrXmlLib16::CXmlWriter& writer, const std::wstring& name,
+        const std::wstring& namespaceUri, const std::wstring& text, ZrXmlLib16::ItemType type, bool isDefault)
+    {
+        return writer.m_joinsCalls && writer.WriteTextElement(name, namespaceUri, text, type, isDefault);
+    }
     static ZrXmlLib16::CNillableMemory& Nillables(ZrXmlLib16::CXmlWriter& writer) { return *writer.m_nillables; }
 };
 

@@ -60,15 +60,14 @@ bool ValidateMandatory(const CElementInfo& record, bool found, bool check)
 
 bool WriteCollection(const CElementInfo& record, const WriteCall& call, CountCheck check)
 {
+    ZrVariant value;
+    call.object->ReadProperty(record.GetPropertyId(), value);
+    const CXmlCollectionBase* const collection = value.BorrowXmlCollection();
     // kept: required behaviour. The counts of a choice collection are not checked on writing.
-    if (check == CountCheck::Always && !call.context.GetIgnoreInvalidCollectionCounts()) {
-        ZrVariant value;
-        call.object->ReadProperty(record.GetPropertyId(), value);
-        if (const CXmlCollectionBase* collection = value.BorrowXmlCollection()) {
-            collection->ValidateCount(call.context);
-        }
+    if (collection && check == CountCheck::Always && !call.context.GetIgnoreInvalidCollectionCounts()) {
+        collection->ValidateCount(call.context);
     }
-    return CRecordAccess::WriteCollection(record, call.context, call.object, call.writer);
+    return CRecordAccess::WriteItems(record, collection, call.context, call.writer);
 }
 
 bool ReadCollectionInSequence(CElementInfo& record, const ReadCall& call)

@@ -64,9 +64,11 @@ void CStringBuffer::AddBlock()
 void CStringBuffer::AddBlock(unsigned long capacity)
 {
     std::unique_ptr<wchar_t[]> block(new wchar_t[capacity + 1]);
-    m_blockSizes.resize(m_blocks.size()); // drops the size of a block that could not be added
-    m_blockSizes.push_back(capacity);
+    m_earlierLengths.resize(m_blocks.size());
     m_blocks.push_back(std::move(block));
+    if (!m_earlierLengths.empty()) {
+        m_earlierLengths.back() = m_usedInCurrent;
+    }
     m_current = m_blocks.back().get();
     m_currentCapacity = capacity;
     m_usedInCurrent = 0;
@@ -81,7 +83,7 @@ void CStringBuffer::SetText(const wchar_t* text)
 
 unsigned long CStringBuffer::GetUsed(std::size_t block) const
 {
-    return block + 1 == m_blocks.size() ? m_usedInCurrent : m_blockSizes[block];
+    return block + 1 == m_blocks.size() ? m_usedInCurrent : m_earlierLengths[block];
 }
 
 const wchar_t* CStringBuffer::GetText()
@@ -96,18 +98,13 @@ const wchar_t* CStringBuffer::GetText()
             joined.Append(m_blocks[i].get(), GetUsed(i));
         }
         m_blocks.swap(joined.m_blocks);
-        m_blockSizes.swap(joined.m_blockSizes);
+        m_earlierLengths.swap(joined.m_earlierLengths);
         m_current = m_blocks.back().get();
         m_currentCapacity = m_totalLength;
         m_usedInCurrent = m_totalLength;
     }
     m_current[m_usedInCurrent] = L'\0';
     return m_current;
-}
-
-unsigned long CStringBuffer::GetLength() const
-{
-    return m_totalLength;
 }
 
 void CStringBuffer::Empty()
@@ -123,7 +120,7 @@ void CStringBuffer::Empty()
 void CStringBuffer::Clear()
 {
     m_blocks.clear();
-    m_blockSizes.clear();
+    m_earlierLengths.clear();
     m_usedInCurrent = 0;
     m_currentCapacity = 0;
     m_current = nullptr;

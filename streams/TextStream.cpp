@@ -5,7 +5,9 @@
 #include "streams/StreamMessages.h"
 #include "streams/Utf8Encoding.h"
 
+#include <algorithm>
 #include <cstring>
+#include <cwchar>
 #include <memory>
 #include <vector>
 
@@ -45,7 +47,29 @@ void CTextStream::Flush() { }
 
 void CTextStream::Append(const wchar_t* text)
 {
-    m_buffer.Append(text);
+    if (text != nullptr) {
+        Append(text, std::wcslen(text));
+    }
+}
+
+/// Piece by piece, so that a stream which encodes as it goes never holds the whole text.
+void CTextStream::AppendLong(const wchar_t* text, unsigned long length)
+{
+    constexpr unsigned long PIECE = 512;
+    while (length > 0) {
+        const unsigned long part = std::min(length, PIECE);
+        if (!m_buffer.HasRoom(part)) {
+            MakeRoom(part);
+        }
+        m_buffer.Append(text, part);
+        text += part;
+        length -= part;
+    }
+}
+
+void CTextStream::MakeRoom(unsigned long length)
+{
+    m_buffer.AddBlock(std::max(length, m_buffer.m_blockSize));
 }
 
 const wchar_t* CTextStream::GetText()

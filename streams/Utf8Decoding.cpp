@@ -3,7 +3,7 @@
 
 #include "streams/UnicodeText.h"
 
-#include <cstring>
+#include <emmintrin.h>
 
 namespace ZrXmlLib16 {
 
@@ -11,12 +11,55 @@ namespace {
 
 constexpr unsigned long ASCII_RUN = 8;
 
-bool IsAsciiRun(const unsigned char* data)
+void Store(__m128i units, void* output)
 {
-    std::uint64_t octets;
-    static_assert(sizeof(octets) == ASCII_RUN, "a run is read as one number");
-    std::memcpy(&octets, data, sizeof(octets));
-    return (octets & 0x8080808080808080U) == 0;
+    _mm_storeu_si128(static_cast<__m128i*>(output), units);
+}
+
+void WidenRun(__m128i units, unsigned short* output)
+{
+    Store(units, output);
+}
+
+void WidenRun(__m128i units, wchar_t* output)
+{
+    Store(_mm_unpacklo_epi16(units, _mm_setzero_si128()), output);
+    Store(_mm_unpackhi_epi16(units, _mm_setzero_si128()), output + ASCII_RUN / 2);
+}
+
+/// Widens one run. @return false when it is not ASCII; the output then is undefined.
+template <class Unit> bool DecodeAsciiRun(const unsigned char* data, Unit* output)
+{
+    const __m128i octets = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(data));
+    WidenRun(_mm_unpacklo_epi8(octets, _mm_setzero_si128()), output);
+    return _mm_movemask_epi8(octets) == 0;
+}
+
+/// Decodes as many runs of ASCII as there are. @return the number of octets.
+template <class Unit> unsigned long DecodeAscii(const unsigned char* data, unsigned long length, Unit* output)
+{
+    unsigned long at = 0;
+    while (length - at >= ASCII_RUN && DecodeAsciiRun(data + at, output + at)) {
+        at += ASCII_RUN;
+    }
+    return at;
+}
+
+/// Decodes what most short texts are, with few branches.
+/// @return false when it met anything else; the output then is undefined.
+template <class Unit> bool DecodeShortAscii(const unsigned char* data, unsigned long length, Unit* output)
+{
+    if (length < ASCII_RUN) {
+        unsigned bits = 0;
+        for (unsigned long at = 0; at < length; ++at) {
+            bits |= data[at];
+            output[at] = static_cast<Unit>(data[at]);
+        }
+        return bits < 0x80;
+    }
+    // The last run may begin within the one before.
+    return length - DecodeAscii(data, length, output) < ASCII_RUN
+        && DecodeAsciiRun(data + length - ASCII_RUN, output + length - ASCII_RUN);
 }
 
 bool IsTail(unsigned char octet)
@@ -73,54 +116,22 @@ DecodedSequence DecodeSequence(const unsigned char* data, unsigned long availabl
     return lead >= 0xF0 && lead <= 0xF4 ? DecodeFour(data, available) : ILL_FORMED;
 }
 
-/// Widens the octets of one run.
-template <class Unit> void WidenRun(const unsigned char* data, Unit* output)
-{
-    for (unsigned long i = 0; i < ASCII_RUN; ++i) {
-        output[i] = static_cast<Unit>(data[i]);
-    }
-}
-
-/// Decodes what most short texts are, with few branches.
-/// @return false when it met anything else; the output then is undefined.
-template <class Unit> bool DecodeAscii(const unsigned char* data, unsigned long length, Unit* output)
-{
-    if (length < ASCII_RUN) {
-        unsigned char bits = 0;
-        for (unsigned long at = 0; at < length; ++at) {
-            bits = static_cast<unsigned char>(bits | data[at]);
-            output[at] = static_cast<Unit>(data[at]);
-        }
-        return bits < 0x80;
-    }
-    for (unsigned long at = 0; at + ASCII_RUN < length; at += ASCII_RUN) {
-        if (!IsAsciiRun(data + at)) {
-            return false;
-        }
-        WidenRun(data + at, output + at);
-    }
-    WidenRun(data + length - ASCII_RUN, output + length - ASCII_RUN);
-    return IsAsciiRun(data + length - ASCII_RUN);
-}
-
 // No sequence has more units than octets.
 template <class Unit> Unit* Decode(const unsigned char* data, unsigned long length, Unit* output)
 {
     constexpr unsigned long SHORT = 128;
-    if (length <= SHORT && DecodeAscii(data, length, output)) {
+    if (length <= SHORT && DecodeShortAscii(data, length, output)) {
         return output + length;
     }
     unsigned long at = 0;
     bool inIllFormedRun = false;
     while (at < length) {
-        while (length - at >= ASCII_RUN && IsAsciiRun(data + at)) {
-            WidenRun(data + at, output);
-            at += ASCII_RUN;
-            output += ASCII_RUN;
+        const unsigned long asciiLength = DecodeAscii(data + at, length - at, output);
+        if (asciiLength != 0) {
+            at += asciiLength;
+            output += asciiLength;
             inIllFormedRun = false;
-        }
-        if (at == length) {
-            break;
+            continue;
         }
         const DecodedSequence sequence = DecodeSequence(data + at, length - at);
         if (sequence.length == 0) {
@@ -150,6 +161,15 @@ std::wstring DecodeUtf8(const unsigned char* data, unsigned long length)
     std::wstring text(length, L'\0');
     const wchar_t* const end = DecodeUtf8(data, length, &text[0]);
     text.resize(static_cast<unsigned long>(end - text.data()));
+    return text;
+}
+
+WideText DecodeUtf8Text(const unsigned char* data, unsigned long length)
+{
+    WideText text;
+    text.characters.reset(new wchar_t[length + 1]); // left uninitialised
+    text.length = static_cast<unsigned long>(DecodeUtf8(data, length, text.characters.get()) - text.characters.get());
+    text.characters[text.length] = L'\0';
     return text;
 }
 

@@ -10,8 +10,8 @@ namespace ZrXmlLib16 {
 
 namespace {
 
-// Holds what a writer appends between two flushes in one block, nearly always.
-constexpr unsigned long BLOCK_SIZE = 8192;
+// Small enough for the innermost cache and for small documents.
+constexpr unsigned long BLOCK_SIZE = 2048;
 constexpr unsigned long LONGEST_CHARACTER = 4;
 constexpr unsigned long LARGEST_CHUNK = 1ul << 20;
 
@@ -43,15 +43,23 @@ void CUtf8TextStream::Flush()
     }
 }
 
+void CUtf8TextStream::MakeRoom(unsigned long length)
+{
+    Flush();
+    if (!m_buffer.HasRoom(length)) {
+        CTextStream::MakeRoom(length);
+    }
+}
+
 void CUtf8TextStream::Encode()
 {
     if (m_buffer.m_blocks.size() == 1) {
         const TextPiece piece = {m_buffer.m_current, m_buffer.m_usedInCurrent};
-        unsigned char* const room = MakeRoom(LONGEST_CHARACTER * piece.length);
+        unsigned char* const room = MakeOctetRoom(LONGEST_CHARACTER * piece.length);
         CountOctets(static_cast<unsigned long>(WriteUtf8(&piece, 1, room) - room));
     } else {
         const CBinaryData octets = EncodeUtf8();
-        std::copy_n(octets.GetData(), octets.GetLength(), MakeRoom(octets.GetLength()));
+        std::copy_n(octets.GetData(), octets.GetLength(), MakeOctetRoom(octets.GetLength()));
         CountOctets(octets.GetLength());
     }
     EmptyText();
@@ -63,7 +71,7 @@ void CUtf8TextStream::CountOctets(unsigned long count)
     m_length += count;
 }
 
-unsigned char* CUtf8TextStream::MakeRoom(unsigned long size)
+unsigned char* CUtf8TextStream::MakeOctetRoom(unsigned long size)
 {
     if (m_chunks.empty() || m_chunks.back().size - m_chunks.back().used < size) {
         const unsigned long chunkSize = std::max(size, std::min(m_length, LARGEST_CHUNK));

@@ -10,8 +10,8 @@
 
 namespace ZrXmlLib16 {
 
-/// A text stream in memory that encodes at every flush, so that the wide text never leaves the cache. Only the octets
-/// can be read, once, at the end.
+/// A text stream in memory that encodes at every flush and whenever its block is full, so that the wide text never
+/// leaves the cache. Only the octets can be read, once, at the end.
 class CUtf8TextStream : public CTextStream {
 public:
     CUtf8TextStream();
@@ -30,9 +30,10 @@ private:
         unsigned long size;
     };
 
+    void MakeRoom(unsigned long length) override;
     void Encode();
     void CountOctets(unsigned long count);
-    unsigned char* MakeRoom(unsigned long size);
+    unsigned char* MakeOctetRoom(unsigned long size);
 
     std::vector<Chunk> m_chunks;
     unsigned long m_length; // octets in all chunks

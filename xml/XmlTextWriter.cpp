@@ -4,12 +4,11 @@
 #include "ZrXmlLib16/ZrException.h"
 #include "ZrXmlLib16/ZrInvalidStateException.h"
 #include "core/TextArgument.h"
+#include "streams/TextRun.h"
 #include "xml/InstanceAttributeNames.h"
 #include "xml/TextWriting.h"
 #include "xml/XmlMessages.h"
 #include "xml/XmlNamespaces.h"
-
-#include <cstdint>
 
 namespace ZrXmlLib16 {
 
@@ -18,24 +17,44 @@ namespace {
 constexpr wchar_t CDATA_START[] = L"<![CDATA[";
 constexpr std::size_t CDATA_START_LENGTH = 9;
 
-constexpr std::uint64_t Bit(wchar_t c)
-{
-    return std::uint64_t{1} << c;
-}
+/// The characters that do not stand for themselves in text, and in the value of an attribute.
+class MarkupEscapes {
+public:
+    explicit MarkupEscapes(bool isAttribute)
+        : m_isAttribute(isAttribute)
+    {
+    }
 
-// All characters that are not copied as they are lie below 64.
-constexpr std::uint64_t SPECIAL_IN_TEXT = Bit(L'\n') | Bit(L'\r') | Bit(L'&') | Bit(L'<') | Bit(L'>');
-constexpr std::uint64_t SPECIAL_IN_ATTRIBUTE = SPECIAL_IN_TEXT | Bit(L'"');
+    bool IsSpecial(wchar_t c) const
+    {
+        return c == L'<' || c == L'>' || c == L'&' || c == L'\n' || c == L'\r' || (c == L'"' && m_isAttribute);
+    }
 
-bool IsSpecial(wchar_t c, std::uint64_t specials)
-{
-    const auto code = static_cast<std::uint32_t>(c);
-    return code < 64 && ((specials >> code) & 1) != 0;
-}
+    static __m128i Candidates(__m128i four)
+    {
+        const __m128i brackets = _mm_cmpeq_epi32(_mm_or_si128(four, _mm_set1_epi32(L'<' ^ L'>')), _mm_set1_epi32(L'>'));
+        const __m128i others = _mm_cmpeq_epi32(_mm_or_si128(four, _mm_set1_epi32(L'"' ^ L'&')), _mm_set1_epi32(L'&'));
+        const __m128i controls = _mm_cmpeq_epi32(_mm_and_si128(four, _mm_set1_epi32(~7)), _mm_set1_epi32(8));
+        return _mm_or_si128(_mm_or_si128(brackets, others), controls);
+    }
+
+private:
+    const bool m_isAttribute;
+};
 
 bool IsCDATA(const std::wstring& value)
 {
     return value[0] == CDATA_START[0] && value.compare(0, CDATA_START_LENGTH, CDATA_START) == 0;
+}
+
+/// @param prefix null for none.
+void PutName(TextRun& run, const std::wstring* prefix, const std::wstring& name)
+{
+    if (prefix) {
+        run.Put(*prefix);
+        run.Put(L':');
+    }
+    run.Put(name);
 }
 
 } // namespace
@@ -48,6 +67,7 @@ CXmlTextWriter::CXmlTextWriter(CTextStream& stream)
     , m_eolType(EOL_LF)
     , m_format(true)
     , m_stream(stream)
+    , m_openNamesLength(0)
 {
 }
 
@@ -80,7 +100,7 @@ void CXmlTextWriter::AddNamespace(const std::wstring& prefix, const std::wstring
 void CXmlTextWriter::WriteComment(const std::wstring& text)
 {
     AppendLiteral(m_stream, L"<!--");
-    PadAndAppend(text, false);
+    AppendEscaped(text, false);
     AppendLiteral(m_stream, L"-->");
     m_stream.Append(m_endOfLine);
     FlushWhenFull(m_stream);
@@ -109,23 +129,24 @@ void CXmlTextWriter::WriteStartElement(const std::wstring& name, const std::wstr
 {
     CloseParentElm();
     const bool isRoot = !GetCurrentContext();
-    // The prefix is all that the end tag needs of the namespace.
-    CXmlWriterContext& context = OpenContext(name, std::wstring(), 0);
+    CXmlWriterContext& context = OpenContext(0);
     if (m_format) {
         AppendIndentation(m_stream, m_indentChars, m_indentation, context.m_depth);
     }
-    m_stream.Append(L'<');
     // kept: required behaviour. An element without namespace never undeclares the default namespace.
-    if (IsPrefixed(namespaceUri)) {
-        bool isNew = false;
-        context.m_prefix = ObtainPrefix(namespaceUri, isNew);
-        AppendName(context.m_prefix, name);
-        if (isNew) {
-            m_stream.Append(L' ');
-            AppendDeclaration(context.m_prefix, namespaceUri);
-        }
-    } else {
-        m_stream.Append(name);
+    bool isNew = false;
+    const std::wstring* const prefix = IsPrefixed(namespaceUri) ? &ObtainPrefix(namespaceUri, isNew) : nullptr;
+    context.m_nameStart = m_openNamesLength;
+    KeepName(prefix, name);
+    {
+        const std::size_t length = m_openNamesLength - context.m_nameStart;
+        TextRun run(m_stream, length + 1);
+        run.Put(L'<');
+        run.Put(m_openNames.data() + context.m_nameStart, length);
+    }
+    if (isNew) {
+        m_stream.Append(L' ');
+        AppendDeclaration(*prefix, namespaceUri);
     }
     if (isRoot) {
         AppendRootDeclarations();
@@ -133,11 +154,27 @@ void CXmlTextWriter::WriteStartElement(const std::wstring& name, const std::wstr
     FlushWhenFull(m_stream);
 }
 
+/// The end tag repeats the name as the start tag has it.
+void CXmlTextWriter::KeepName(const std::wstring* prefix, const std::wstring& name)
+{
+    const std::size_t length = (prefix ? prefix->size() + 1 : 0) + name.size();
+    if (m_openNames.size() - m_openNamesLength < length) {
+        m_openNames.resize(2 * (m_openNamesLength + length));
+    }
+    wchar_t* out = &m_openNames[m_openNamesLength];
+    if (prefix) {
+        out = TextRun::Copy(prefix->data(), prefix->size(), out);
+        *out++ = L':';
+    }
+    TextRun::Copy(name.data(), name.size(), out);
+    m_openNamesLength += length;
+}
+
 void CXmlTextWriter::AppendRootDeclarations()
 {
     if (!GetRootDefaultNamespace().empty()) {
         AppendLiteral(m_stream, L" xmlns=\"");
-        PadAndAppend(GetRootDefaultNamespace(), true);
+        AppendEscaped(GetRootDefaultNamespace(), true);
         m_stream.Append(L'"');
     }
     for (const auto& [namespaceUri, prefix] : GetRootNamespaceMap()) {
@@ -155,15 +192,28 @@ void CXmlTextWriter::WriteString(const std::wstring& value, ItemType, bool isDef
         return;
     }
     CXmlWriterContext* const context = GetCurrentContext();
-    if (context && context->m_startTagOpen) {
-        m_stream.Append(L'>');
+    const bool endsTag = context && context->m_startTagOpen;
+    if (endsTag) {
         context->m_startTagOpen = false;
     }
     // kept: required behaviour. Whatever begins like a CDATA section is taken for one.
-    if (IsCDATA(value)) {
+    const bool isRaw = IsCDATA(value);
+    const wchar_t* position = value.data();
+    const wchar_t* const end = position + value.size();
+    const wchar_t* const runEnd = TextRun::EndOfPiece(position, end);
+    {
+        TextRun run(m_stream, 1 + static_cast<std::size_t>(runEnd - position));
+        if (endsTag) {
+            run.Put(L'>');
+        }
+        if (!isRaw) {
+            position = run.PutPlain(position, runEnd, MarkupEscapes(false));
+        }
+    }
+    if (isRaw) {
         m_stream.Append(value);
-    } else {
-        PadAndAppend(value, false);
+    } else if (position != end) {
+        AppendEscaped(position, end, false);
     }
     FlushWhenFull(m_stream);
 }
@@ -174,43 +224,100 @@ void CXmlTextWriter::WriteEndElement()
     if (!context) {
         throw CZrInvalidStateException(Message::NO_ELEMENT_TO_END);
     }
-    if (context->m_startTagOpen) {
-        AppendLiteral(m_stream, L"/>");
-    } else {
-        if (m_format && context->m_childCount > 0) {
-            AppendIndentation(m_stream, m_indentChars, m_indentation, context->m_depth);
-        }
-        AppendLiteral(m_stream, L"</");
-        AppendName(context->m_prefix, context->m_localName);
-        m_stream.Append(L'>');
+    if (!context->m_startTagOpen && m_format && context->m_childCount > 0) {
+        AppendIndentation(m_stream, m_indentChars, m_indentation, context->m_depth);
     }
-    if (m_format) {
-        m_stream.Append(m_endOfLine);
+    {
+        const std::size_t length = m_openNamesLength - context->m_nameStart;
+        TextRun run(m_stream, length + 3 + m_endOfLine.size());
+        if (context->m_startTagOpen) {
+            run.PutLiteral(L"/>");
+        } else {
+            run.PutLiteral(L"</");
+            run.Put(m_openNames.data() + context->m_nameStart, length);
+            run.Put(L'>');
+        }
+        if (m_format) {
+            run.Put(m_endOfLine);
+        }
     }
     FlushWhenFull(m_stream);
+    m_openNamesLength = context->m_nameStart;
     CloseContext();
+}
+
+bool CXmlTextWriter::WriteTextElement(
+    const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& text, ItemType, bool isDefault)
+{
+    const CXmlWriterContext* const parent = GetCurrentContext();
+    if (!parent || text.empty() || IsCDATA(text) || (isDefault && !m_writeDefaultElementValues)) {
+        return false;
+    }
+    const bool isPrefixed = IsPrefixed(namespaceUri);
+    const std::wstring* const prefix = isPrefixed ? parent->FindPrefix(namespaceUri) : nullptr;
+    if (isPrefixed && !prefix) {
+        return false; // the element invents one
+    }
+    CloseParentElm();
+    if (m_format) {
+        AppendIndentation(m_stream, m_indentChars, m_indentation, parent->m_depth + 1);
+    }
+    const std::size_t nameLength = (prefix ? prefix->size() + 1 : 0) + name.size();
+    const wchar_t* position = text.data();
+    const wchar_t* const end = position + text.size();
+    const wchar_t* const runEnd = TextRun::EndOfPiece(position, end);
+    {
+        TextRun run(m_stream, nameLength + 2 + static_cast<std::size_t>(runEnd - position));
+        run.Put(L'<');
+        PutName(run, prefix, name);
+        run.Put(L'>');
+        position = run.PutPlain(position, runEnd, MarkupEscapes(false));
+    }
+    if (position != end) {
+        AppendEscaped(position, end, false);
+    }
+    {
+        TextRun run(m_stream, nameLength + 3 + m_endOfLine.size());
+        run.PutLiteral(L"</");
+        PutName(run, prefix, name);
+        run.Put(L'>');
+        if (m_format) {
+            run.Put(m_endOfLine);
+        }
+    }
+    FlushWhenFull(m_stream);
+    return true;
 }
 
 void CXmlTextWriter::WriteAttributeString(
     const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& value, ItemType)
 {
     RequireOpenStartTag();
-    m_stream.Append(L' ');
-    if (namespaceUri.empty()) {
-        m_stream.Append(name);
-    } else {
-        // kept: required behaviour. An attribute in the default namespace gets a prefix too.
-        bool isNew = false;
-        const std::wstring& prefix = ObtainPrefix(namespaceUri, isNew);
-        if (isNew) {
-            AppendDeclaration(prefix, namespaceUri);
-            m_stream.Append(L' ');
-        }
-        AppendName(prefix, name);
+    // kept: required behaviour. An attribute in the default namespace gets a prefix too.
+    bool isNew = false;
+    const std::wstring* const prefix = namespaceUri.empty() ? nullptr : &ObtainPrefix(namespaceUri, isNew);
+    if (isNew) {
+        m_stream.Append(L' ');
+        AppendDeclaration(*prefix, namespaceUri);
     }
-    AppendLiteral(m_stream, L"=\"");
-    PadAndAppend(value, true);
-    m_stream.Append(L'"');
+    const wchar_t* position = value.data();
+    const wchar_t* const end = position + value.size();
+    const wchar_t* const runEnd = TextRun::EndOfPiece(position, end);
+    {
+        const std::size_t prefixLength = prefix ? prefix->size() + 1 : 0;
+        TextRun run(m_stream, 4 + prefixLength + name.size() + static_cast<std::size_t>(runEnd - position));
+        run.Put(L' ');
+        PutName(run, prefix, name);
+        run.PutLiteral(L"=\"");
+        position = run.PutPlain(position, runEnd, MarkupEscapes(true));
+        if (position == end) {
+            run.Put(L'"');
+        }
+    }
+    if (position != end) {
+        AppendEscaped(position, end, true);
+        m_stream.Append(L'"');
+    }
     FlushWhenFull(m_stream);
 }
 
@@ -288,19 +395,27 @@ void CXmlTextWriter::CloseParentElm()
     }
 }
 
-void CXmlTextWriter::PadAndAppend(const std::wstring& text, bool isAttribute)
+void CXmlTextWriter::AppendEscaped(const std::wstring& text, bool isAttribute)
 {
-    const std::uint64_t specials = isAttribute ? SPECIAL_IN_ATTRIBUTE : SPECIAL_IN_TEXT;
-    const wchar_t* run = text.data();
-    const wchar_t* const end = run + text.size();
-    for (const wchar_t* position = run; position != end; ++position) {
-        if (IsSpecial(*position, specials)) {
-            m_stream.Append(run, static_cast<unsigned long>(position - run));
+    AppendEscaped(text.data(), text.data() + text.size(), isAttribute);
+}
+
+void CXmlTextWriter::AppendEscaped(const wchar_t* position, const wchar_t* end, bool isAttribute)
+{
+    const MarkupEscapes escapes(isAttribute);
+    TextRun::Prefetch prefetch(position, end);
+    while (position != end) {
+        const wchar_t* const runEnd = TextRun::EndOfPiece(position, end);
+        prefetch.At(position);
+        {
+            TextRun run(m_stream, static_cast<std::size_t>(runEnd - position));
+            position = run.PutPlain(position, runEnd, escapes);
+        }
+        if (position != runEnd) {
             AppendEscape(*position, isAttribute);
-            run = position + 1;
+            ++position;
         }
     }
-    m_stream.Append(run, static_cast<unsigned long>(end - run));
 }
 
 void CXmlTextWriter::AppendEscape(wchar_t special, bool isAttribute)
@@ -330,21 +445,12 @@ void CXmlTextWriter::AppendEscape(wchar_t special, bool isAttribute)
     }
 }
 
-void CXmlTextWriter::AppendName(const std::wstring& prefix, const std::wstring& name)
-{
-    if (!prefix.empty()) {
-        m_stream.Append(prefix);
-        m_stream.Append(L':');
-    }
-    m_stream.Append(name);
-}
-
 void CXmlTextWriter::AppendDeclaration(const std::wstring& prefix, const std::wstring& namespaceUri)
 {
     AppendLiteral(m_stream, L"xmlns:");
     m_stream.Append(prefix);
     AppendLiteral(m_stream, L"=\"");
-    PadAndAppend(namespaceUri, true);
+    AppendEscaped(namespaceUri, true);
     m_stream.Append(L'"');
 }
 

@@ -3,6 +3,7 @@
 
 #include "ZrXmlLib16/ZrException.h"
 #include "core/NillableMemory.h"
+#include "core/TextEquality.h"
 #include "xml/InventedPrefix.h"
 #include "xml/XmlMessages.h"
 #include "xml/XmlNamespaces.h"
@@ -15,6 +16,7 @@ CXmlWriter::CXmlWriter(const wchar_t*)
     : m_currentContext(nullptr)
     , m_openContexts(0)
     , m_nillables(new CNillableMemory)
+    , m_joinsCalls(false)
 {
     m_namespaceMap.emplace(XML_NAMESPACE_URI, L"xml");
 }
@@ -79,8 +81,12 @@ std::wstring CXmlWriter::GetUniquePrefix(const NamespaceMap& map) const
     return NsIntToString(number);
 }
 
-CXmlWriter::CXmlWriterContext& CXmlWriter::OpenContext(
-    const std::wstring& name, const std::wstring& namespaceUri, unsigned long rootDepth)
+bool CXmlWriter::WriteTextElement(const std::wstring&, const std::wstring&, const std::wstring&, ItemType, bool)
+{
+    return false;
+}
+
+CXmlWriter::CXmlWriterContext& CXmlWriter::OpenContext(unsigned long rootDepth)
 {
     if (m_openContexts == m_contexts.size()) {
         m_contexts.push_back(std::unique_ptr<CXmlWriterContext>(new CXmlWriterContext));
@@ -91,7 +97,6 @@ CXmlWriter::CXmlWriterContext& CXmlWriter::OpenContext(
     } else {
         context.BeginRoot(rootDepth, m_defaultNamespace, m_namespaceMap);
     }
-    context.SetName(name, namespaceUri);
     ++m_openContexts;
     m_currentContext = &context;
     return context;
@@ -105,7 +110,7 @@ void CXmlWriter::CloseContext() noexcept
 
 bool CXmlWriter::IsPrefixed(const std::wstring& namespaceUri) const
 {
-    return !namespaceUri.empty() && namespaceUri != m_currentContext->m_scope->m_defaultNamespace;
+    return !namespaceUri.empty() && !AreEqual(namespaceUri, m_currentContext->m_scope->m_defaultNamespace);
 }
 
 const std::wstring& CXmlWriter::ObtainPrefix(const std::wstring& namespaceUri, bool& isNew)

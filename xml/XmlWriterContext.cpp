@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ZrXmlLib16/XmlWriter.h"
 #include "core/TextArgument.h"
+#include "core/TextEquality.h"
 #include "xml/InventedPrefix.h"
 
 namespace ZrXmlLib16 {
@@ -21,6 +22,7 @@ CXmlWriter::CXmlWriterContext::CXmlWriterContext()
     : m_childCount(0)
     , m_startTagOpen(true)
     , m_depth(0)
+    , m_nameStart(0)
     , m_parent(nullptr)
     , m_state(ContextState_None)
     , m_isComplete(true)
@@ -37,6 +39,9 @@ CXmlWriter::CXmlWriterContext::~CXmlWriterContext() = default;
 void CXmlWriter::CXmlWriterContext::BeginRoot(
     unsigned long depth, const std::wstring& defaultNamespace, const NamespaceMap& namespaceMap)
 {
+    m_childCount = 0;
+    m_startTagOpen = true;
+    m_state = ContextState_None;
     m_depth = depth;
     m_parent = nullptr;
     m_inherits = false;
@@ -50,20 +55,13 @@ void CXmlWriter::CXmlWriterContext::BeginRoot(
 
 void CXmlWriter::CXmlWriterContext::BeginChild(CXmlWriterContext& parent)
 {
+    m_childCount = 0;
+    m_startTagOpen = true;
+    m_state = ContextState_None;
     m_depth = parent.m_depth + 1;
     m_parent = &parent;
     m_inherits = true;
     m_scope = parent.m_scope;
-}
-
-void CXmlWriter::CXmlWriterContext::SetName(const std::wstring& localName, const std::wstring& namespaceUri)
-{
-    m_childCount = 0;
-    m_startTagOpen = true;
-    m_state = ContextState_None;
-    m_localName = localName;
-    m_namespaceUri = namespaceUri;
-    m_prefix.clear();
 }
 
 // A scope holds its own prefixes only: copies at every level would cost the square of the depth.
@@ -160,7 +158,7 @@ const CXmlWriter::NamespaceMap::value_type* CXmlWriter::CXmlWriterContext::FindE
 const std::wstring* CXmlWriter::CXmlWriterContext::FindPrefix(const std::wstring& namespaceUri) const
 {
     const NamespaceMap::value_type*& lastFound = m_scope->m_lastFound;
-    if (!lastFound || lastFound->first != namespaceUri) {
+    if (!lastFound || !AreEqual(lastFound->first, namespaceUri)) {
         const NamespaceMap::value_type* const found = FindEntry(namespaceUri);
         if (!found) {
             return nullptr;

@@ -55,11 +55,15 @@ public:
 
 private:
     class Output;
+    struct PendingName;
 
     // Of the current element. Its header tells whether it has attributes, so it waits for what comes next.
     enum class StartTag { Pending, InAttributes, Closed };
 
+    bool WriteTextElement(const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& text,
+        ItemType type, bool isDefault) override;
     void WriteHeader(bool hasAttributes);
+    const std::wstring& PrefixOf(const std::wstring& namespaceUri);
     bool HasNamespaces() const;
     void WriteNamespaces(unsigned int leadingBits);
     void CloseStartTag();

@@ -86,6 +86,8 @@ private:
         std::wstring namespaceUri;
     };
 
+    bool WriteTextElement(const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& text,
+        ItemType type, bool isDefault) override;
     bool IsArrayOpen(const CXmlWriterContext& element) const;
     bool ContinuesArray(
         const CXmlWriterContext& parent, const std::wstring& name, const std::wstring& namespaceUri) const;
@@ -93,8 +95,8 @@ private:
     void EndArray(CXmlWriterContext& element);
     void BeginMember(CXmlWriterContext& element, bool continuesArray);
     void BeginAttribute();
-    void AppendElementName(CXmlWriterContext& context, bool isRoot);
-    void AppendName(const std::wstring& prefix, const std::wstring& name);
+    void AppendElementName(const std::wstring& name, const std::wstring& namespaceUri, bool isRoot);
+    void AppendMemberName(bool isMarked, const std::wstring* prefix, const std::wstring& name);
     void AppendRootDeclarations(CXmlWriterContext& root);
     void AppendDeclaration(const std::wstring& prefix, const std::wstring& namespaceUri);
     void BeginLine(const CXmlWriterContext& element, unsigned long extraDepth);
@@ -111,6 +113,8 @@ private:
     bool m_hasNoMember;              // of the current element: its object has not been begun
     std::vector<OpenArray> m_arrays; // by nesting; ended ones are kept for reuse
     std::size_t m_openArrays;
+    std::wstring m_firstItemName; // of the last element that may begin an array
+    std::wstring m_firstItemNamespace;
     std::wstring m_indentation;    // the indent characters repeated, as far as needed up to now
     std::wstring m_qualifiedValue; // reused
     /// Whether the stream takes the text piece by piece, which nobody sees of one in memory. Files get it at the end.

@@ -13,8 +13,7 @@ namespace ZrXmlLib16 {
 
 /// Text that grows in blocks of a fixed size.
 ///
-/// No block is ever reallocated, so appending never moves earlier text. Every block but the last one is full. Not
-/// synchronised.
+/// No block is ever reallocated, so appending never moves earlier text. Not synchronised.
 class ZRXML_API CStringBuffer {
 public:
     /// A buffer of blocks of 4095 characters.
@@ -38,7 +37,7 @@ public:
     /// The whole text, NUL-terminated, joined into one block. The buffer owns it; it is valid until the next change.
     const wchar_t* GetText();
     /// Number of characters appended since the last clearing.
-    unsigned long GetLength() const;
+    unsigned long GetLength() const { return m_totalLength; }
     /// Drops the text and keeps the block when there is exactly one.
     void Empty();
     /// Drops the text and frees all blocks.
@@ -51,6 +50,11 @@ private:
     friend class CTextStream;
     friend class CUtf8TextStream;
 
+    friend class TextRun;
+
+    bool HasRoom(unsigned long length) const { return length <= m_currentCapacity - m_usedInCurrent; }
+    wchar_t* GetEnd() const { return m_current + m_usedInCurrent; }
+    void Advance(unsigned long length);
     void AddBlock();
     void AddBlock(unsigned long capacity);
     static void CopyShort(const wchar_t* text, unsigned long length, wchar_t* output);
@@ -58,7 +62,7 @@ private:
     unsigned long GetUsed(std::size_t block) const;
 
     std::vector<std::unique_ptr<wchar_t[]>> m_blocks;
-    std::vector<unsigned long> m_blockSizes;
+    std::vector<unsigned long> m_earlierLengths; // of the text in all blocks but the last
     unsigned long m_blockSize;
     unsigned long m_usedInCurrent;
     unsigned long m_currentCapacity;
@@ -77,11 +81,17 @@ inline void CStringBuffer::Append(wchar_t c)
 
 inline void CStringBuffer::Append(const wchar_t* text, unsigned long length)
 {
-    if (length > m_currentCapacity - m_usedInCurrent) {
+    if (!HasRoom(length)) {
         AppendOverBlocks(text, length);
         return;
     }
-    CopyShort(text, length, m_current + m_usedInCurrent);
+    CopyShort(text, length, GetEnd());
+    Advance(length);
+}
+
+/// Counts what was written at the end.
+inline void CStringBuffer::Advance(unsigned long length)
+{
     m_usedInCurrent += length;
     m_totalLength += length;
 }

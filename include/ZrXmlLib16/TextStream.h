@@ -29,13 +29,13 @@ public:
     virtual void Flush();
 
     /// Appends text.
-    void Append(wchar_t c) { m_buffer.Append(c); }
+    void Append(wchar_t c);
     /// @param text NUL-terminated; null is empty text.
     void Append(const wchar_t* text);
     /// Appends a text.
-    void Append(const std::wstring& text) { m_buffer.Append(text.data(), text.size()); }
+    void Append(const std::wstring& text) { Append(text.data(), text.size()); }
     /// Appends a run of characters. @param text may be null when the length is 0.
-    void Append(const wchar_t* text, unsigned long length) { m_buffer.Append(text, length); }
+    void Append(const wchar_t* text, unsigned long length);
 
     /// Number of characters collected.
     unsigned long GetLength() const { return m_buffer.GetLength(); }
@@ -64,8 +64,12 @@ protected:
 
 private:
     friend class CUtf8TextStream;
+    friend class TextRun;
 
     CTextStream(XmlEncoding encoding, unsigned long blockSize);
+    void AppendLong(const wchar_t* text, unsigned long length);
+    /// Makes room for that many characters at the end of the text.
+    virtual void MakeRoom(unsigned long length);
     CBinaryData EncodeUtf8() const;
     CBinaryData WidenFirstQuarter();
     CBinaryData CopyStorage() const;
@@ -73,6 +77,23 @@ private:
     CStringBuffer m_buffer;
     XmlEncoding m_encoding;
 };
+
+inline void CTextStream::Append(wchar_t c)
+{
+    if (!m_buffer.HasRoom(1)) {
+        MakeRoom(1);
+    }
+    m_buffer.Append(c);
+}
+
+inline void CTextStream::Append(const wchar_t* text, unsigned long length)
+{
+    if (m_buffer.HasRoom(length)) {
+        m_buffer.Append(text, length);
+    } else {
+        AppendLong(text, length);
+    }
+}
 
 } // namespace ZrXmlLib16
 

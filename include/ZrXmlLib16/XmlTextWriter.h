@@ -69,10 +69,13 @@ public:
     void SetWriteDefaultElementValues(bool value);
 
 private:
+    bool WriteTextElement(const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& text,
+        ItemType type, bool isDefault) override;
     void CloseParentElm();
-    void PadAndAppend(const std::wstring& text, bool isAttribute);
+    void KeepName(const std::wstring* prefix, const std::wstring& name);
+    void AppendEscaped(const std::wstring& text, bool isAttribute);
+    void AppendEscaped(const wchar_t* position, const wchar_t* end, bool isAttribute);
     void AppendEscape(wchar_t special, bool isAttribute);
-    void AppendName(const std::wstring& prefix, const std::wstring& name);
     void AppendDeclaration(const std::wstring& prefix, const std::wstring& namespaceUri);
     void AppendRootDeclarations();
     void RequireOpenStartTag() const;
@@ -85,6 +88,8 @@ private:
     CTextStream& m_stream;
     std::wstring m_indentation;    // the indent characters repeated, as far as needed up to now
     std::wstring m_qualifiedValue; // reused
+    std::wstring m_openNames;      // of the open elements with their prefixes, one behind the other; then room
+    std::size_t m_openNamesLength;
 };
 
 } // namespace ZrXmlLib16

@@ -69,7 +69,6 @@ public:
         CXmlWriterContext();
         void BeginRoot(unsigned long depth, const std::wstring& defaultNamespace, const NamespaceMap& namespaceMap);
         void BeginChild(CXmlWriterContext& parent);
-        void SetName(const std::wstring& localName, const std::wstring& namespaceUri);
         void BeginScope();
         void CompleteMap();
         const NamespaceMap::value_type* FindEntry(const std::wstring& namespaceUri) const;
@@ -82,8 +81,7 @@ public:
         int m_childCount;
         bool m_startTagOpen;
         unsigned long m_depth;
-        std::wstring m_namespaceUri;
-        std::wstring m_localName;
+        std::size_t m_nameStart;     // where the writer of XML text keeps the name
         CXmlWriterContext* m_parent; // null for the root
         ContextState m_state;
         std::wstring m_defaultNamespace; // of this scope
@@ -95,7 +93,6 @@ public:
         bool m_inherits;
         CXmlWriterContext* m_scope;                          // the nearest context that does not inherit
         mutable const NamespaceMap::value_type* m_lastFound; // of this scope; saves most searches
-        std::wstring m_prefix;                               // as written in the start tag
     };
 
     virtual ~CXmlWriter();
@@ -146,7 +143,7 @@ public:
 protected:
     /// Opens an element inside the current one, or the root with its own copy of the writer's default namespace and
     /// prefixes.
-    CXmlWriterContext& OpenContext(const std::wstring& name, const std::wstring& namespaceUri, unsigned long rootDepth);
+    CXmlWriterContext& OpenContext(unsigned long rootDepth);
     /// The parent becomes the current element. There must be an open one.
     void CloseContext() noexcept;
     /// Null when no element is open.
@@ -162,6 +159,13 @@ protected:
 
 private:
     friend class ZrXmlLib16Data::CRecordAccess;
+    friend class CXmlObjectBase;
+    friend class JsonTapeWriter;
+
+    /// Writes an element that is nothing but text, if that takes less than start, text and end; else nothing.
+    /// @return whether it was written.
+    virtual bool WriteTextElement(const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& text,
+        ItemType type, bool isDefault);
 
     std::wstring m_defaultNamespace;
     CXmlWriterContext* m_currentContext;
@@ -170,7 +174,9 @@ private:
     std::size_t m_openContexts;
     std::wstring m_scratch;     // for the values that records format
     std::wstring m_nameScratch; // for the names of objects
+    std::wstring m_namespaceScratch;
     std::unique_ptr<CNillableMemory> m_nillables;
+    bool m_joinsCalls; // no class overrides the single calls, so WriteTextElement may stand for them
 };
 
 } // namespace ZrXmlLib16

@@ -14,6 +14,7 @@
 
 namespace ZrXmlLib16 {
 class CSerializationContext;
+class CXmlCollectionBase;
 class CXmlElement;
 class CXmlGeneratedClass;
 class CXmlObjectBase;
@@ -169,6 +170,8 @@ protected:
 
 private:
     void WriteElement(ZrXmlLib16::CXmlWriter* writer, const std::wstring& text, ItemType type, bool isDefault) const;
+    bool WriteItems(const ZrXmlLib16::CXmlCollectionBase* collection, const ZrXmlLib16::CSerializationContext& context,
+        ZrXmlLib16::CXmlWriter* writer) const;
     bool WriteNilElement(ZrXmlLib16::CXmlWriter* writer) const;
     bool ReadNilAttributes(
         const ZrXmlLib16::CSerializationContext& context, const ZrXmlLib16::CXmlElement& element) const;
