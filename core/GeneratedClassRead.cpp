@@ -44,6 +44,7 @@ CXmlElement* CXmlGeneratedClass::FromXml_Int(
 {
     m_satisfied = false;
     m_touched = false;
+    NodeAccess::PrefetchContent(*element);
     try {
         Init();
         const CParentElementInfo& info = *GetClassInfo();

@@ -139,6 +139,7 @@ void CElementInfo::ElementFromXmlPrim(
     const CSerializationContext& context, CXmlGeneratedClass* object, CXmlElement** current)
 {
     CXmlElement* element = *current;
+    NodeAccess::PrefetchSibling(*element);
     // kept: required behaviour. A nil element neither sets nor clears the member, and facets are not checked on
     // reading.
     if (!ReadNilAttributes(context, *element)) {

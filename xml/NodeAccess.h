@@ -34,6 +34,17 @@ public:
         return left.m_name.get() == right.m_name.get();
     }
 
+    /// @{
+    /// Have what a walk comes to next loaded into the cache while something else is done: the content of an element, or
+    /// its sibling.
+    static void PrefetchContent(const CXmlElement& element)
+    {
+        __builtin_prefetch(element.m_lastAttribute);
+        __builtin_prefetch(element.m_firstChild);
+    }
+    static void PrefetchSibling(const CXmlElement& element) { __builtin_prefetch(element.m_nextSibling); }
+    /// @}
+
     /// The attributes in document order; null ends them.
     static CXmlAttribute* GetFirstAttribute(const CXmlElement& element)
     {
