@@ -80,11 +80,6 @@ OctetString UpToNul(OctetString content)
                : content;
 }
 
-std::wstring Widen(const std::vector<Utf16Unit>& units, std::size_t count)
-{
-    return std::wstring(units.data(), units.data() + count);
-}
-
 } // namespace
 
 /// Decodes one document. The open elements are those of the document that is built: nothing here recurses.
@@ -115,7 +110,9 @@ private:
     NameParts ReadLiteralName(unsigned char first);
     const std::wstring& ReadIdentifyingString(TextTable& table);
 
-    void CountIndexedText(const std::wstring& text);
+    ValueTable::Value RequireValue(const ValueTable& table, std::uint64_t index, const wchar_t* message);
+    void AddValue(ValueTable& table, const Utf16Unit* nodeUnits, std::size_t count);
+    void CountIndexedText(std::size_t length);
 
     CXmlDocument& m_document;
     OctetReader m_input;
@@ -287,10 +284,13 @@ void CFastInfosetReader::Decoder::ReadAttributeValue(CXmlElement& element, const
             element.AddNamedAttribute(name, std::wstring());
             return;
         }
-        const std::wstring& value = RequireEntry(
-            m_vocabulary.GetAttributeValues().Find(index), FastInfosetReaderMessages::INVALID_INTEGER_OR_ZERO_ON_BIT_2);
-        CountIndexedText(value);
-        element.AddNamedAttribute(name, value);
+        const ValueTable::Value value = RequireValue(
+            m_vocabulary.GetAttributeValues(), index, FastInfosetReaderMessages::INVALID_INTEGER_OR_ZERO_ON_BIT_2);
+        if (value.wide) {
+            element.AddNamedAttribute(name, *value.wide);
+        } else {
+            element.AddSharedAttribute(name, value.units, value.length);
+        }
         return;
     }
     const EncodedString literal = ReadEncodedStringOnBit3(m_input, first);
@@ -299,7 +299,7 @@ void CFastInfosetReader::Decoder::ReadAttributeValue(CXmlElement& element, const
         const std::size_t count = DecodeUnits(literal.content);
         element.AddParsedAttribute(name, m_units.data(), count);
         if (isAdded) {
-            m_vocabulary.GetAttributeValues().Add(Widen(m_units, count));
+            AddValue(m_vocabulary.GetAttributeValues(), NodeAccess::FindLastValueUnits(element), count);
         }
         return;
     }
@@ -324,7 +324,7 @@ void CFastInfosetReader::Decoder::ReadChunk(unsigned char first)
         const std::size_t count = DecodeUnits(UpToNul(literal.content));
         NodeAccess::AppendUnits(element, m_units.data(), count);
         if (isAdded) {
-            m_vocabulary.GetCharacterChunks().Add(Widen(m_units, count));
+            AddValue(m_vocabulary.GetCharacterChunks(), NodeAccess::FindTextUnits(element, count), count);
         }
         return;
     }
@@ -338,10 +338,38 @@ void CFastInfosetReader::Decoder::ReadChunk(unsigned char first)
 
 void CFastInfosetReader::Decoder::ReadIndexedChunk(CXmlElement& element, std::uint64_t index)
 {
-    const std::wstring& text = RequireEntry(
-        m_vocabulary.GetCharacterChunks().Find(index), FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_4);
-    CountIndexedText(text);
-    m_document.AppendTextExcludingCR(&element, text);
+    const ValueTable::Value text =
+        RequireValue(m_vocabulary.GetCharacterChunks(), index, FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_4);
+    if (text.wide) {
+        m_document.AppendTextExcludingCR(&element, *text.wide);
+    } else if (NodeAccess::HasText(element) || ContainsCR(text.units, text.length)) {
+        NodeAccess::AppendUnits(element, text.units, text.length);
+    } else {
+        NodeAccess::ShareText(element, text.units, text.length);
+    }
+}
+
+ValueTable::Value CFastInfosetReader::Decoder::RequireValue(
+    const ValueTable& table, std::uint64_t index, const wchar_t* message)
+{
+    ValueTable::Value value;
+    if (!table.Find(index, value)) {
+        ThrowFastInfosetFailure(message);
+    }
+    CountIndexedText(value.length);
+    return value;
+}
+
+/// @param nodeUnits what has just been decoded as it lies in a node; null when it does not.
+void CFastInfosetReader::Decoder::AddValue(ValueTable& table, const Utf16Unit* nodeUnits, std::size_t count)
+{
+    if (!nodeUnits && !table.IsFull()) {
+        Arena& arena = m_document.GetStorage().GetArena();
+        auto* const copy = static_cast<Utf16Unit*>(arena.Allocate(count * sizeof(Utf16Unit), alignof(Utf16Unit)));
+        std::copy_n(m_units.data(), count, copy);
+        nodeUnits = copy;
+    }
+    table.Add(nodeUnits, count);
 }
 
 /// Decodes UTF-8 into m_units. @return the number of units.
@@ -397,7 +425,7 @@ const std::wstring& CFastInfosetReader::Decoder::ReadIdentifyingString(TextTable
     if (first & INDEX_ON_BIT_1) {
         const std::wstring& text = RequireEntry(
             table.Find(m_input.ReadIntegerOnBit2(first)), FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_2);
-        CountIndexedText(text);
+        CountIndexedText(text.size());
         return text;
     }
     std::wstring text;
@@ -406,9 +434,9 @@ const std::wstring& CFastInfosetReader::Decoder::ReadIdentifyingString(TextTable
 }
 
 // An index of one octet may stand for a text of any length: without a limit a few kilobytes fill the memory.
-void CFastInfosetReader::Decoder::CountIndexedText(const std::wstring& text)
+void CFastInfosetReader::Decoder::CountIndexedText(std::size_t length)
 {
-    m_indexedText += text.size();
+    m_indexedText += length;
     if (m_indexedText > m_indexedTextLimit) {
         throw CZrException(FormatString(FastInfosetReaderMessages::TOO_MUCH_INDEXED_TEXT, m_indexedTextLimit));
     }

@@ -39,6 +39,58 @@ const std::wstring& TextTable::Add(std::wstring text)
     return m_unlisted;
 }
 
+ValueTable::ValueTable(const CFIVocabulary::CFIStringTable* base)
+    : m_base(base && base->size() > 0 ? &base->at(1) : nullptr)
+    , m_baseSize(base ? base->size() : 0)
+{
+}
+
+bool ValueTable::Find(std::uint64_t index, Value& value) const noexcept
+{
+    const std::uint64_t offset = index - 1; // wraps for 0
+    if (offset < m_baseSize) {
+        value = {nullptr, m_base[offset].size(), m_base + offset};
+        return true;
+    }
+    if (offset - m_baseSize >= m_added.size()) {
+        return false;
+    }
+    const Entry& entry = m_added[offset - m_baseSize];
+    if (entry.units) {
+        value = {entry.units, entry.length, nullptr};
+    } else {
+        value = {nullptr, m_wide[entry.length].size(), &m_wide[entry.length]};
+    }
+    return true;
+}
+
+bool ValueTable::IsFull() const noexcept
+{
+    return m_baseSize + m_added.size() >= MAXIMUM_INDEX;
+}
+
+void ValueTable::Add(const unsigned short* units, std::size_t length)
+{
+    static constexpr unsigned short none[1] = {};
+    Add(Entry{length == 0 ? none : units, length});
+}
+
+void ValueTable::Add(const std::wstring& text)
+{
+    if (!IsFull()) {
+        m_wide.push_back(text);
+        Add(Entry{nullptr, m_wide.size() - 1});
+    }
+}
+
+void ValueTable::Add(const Entry& entry)
+{
+    if (!IsFull()) {
+        ReserveFirst(m_added);
+        m_added.push_back(entry);
+    }
+}
+
 ReaderVocabulary::QualifiedNames::QualifiedNames(const CFIVocabulary::CFIQNameTable* baseTable)
     : base(baseTable)
     , names(baseTable ? baseTable->size() : 0)

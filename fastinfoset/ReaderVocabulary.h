@@ -5,6 +5,7 @@
 #include "ZrXmlLib16/FIVocabulary.h"
 
 #include <cstdint>
+#include <deque>
 #include <string>
 #include <utility>
 #include <vector>
@@ -43,6 +44,42 @@ private:
     std::wstring m_unlisted; // the last text that found the table full
 };
 
+/// The attribute values or character chunks that an index stands for. Those that the document brought are units in its
+/// memory, which its nodes share.
+class ValueTable {
+public:
+    /// Either units or, for an entry of the base or one that is no UTF-16, wide text.
+    struct Value {
+        const unsigned short* units;
+        std::size_t length; // also of the wide text
+        const std::wstring* wide;
+    };
+
+    /// @param base not owned, null for none.
+    explicit ValueTable(const CFIVocabulary::CFIStringTable* base);
+
+    /// @return false for an index that is not in the table. The value stays valid until the next Add.
+    bool Find(std::uint64_t index, Value& value) const noexcept;
+    /// Once the table is full, nothing is added.
+    bool IsFull() const noexcept;
+    /// @param units not owned.
+    void Add(const unsigned short* units, std::size_t length);
+    void Add(const std::wstring& text);
+
+private:
+    struct Entry {
+        const unsigned short* units; // null: the length is an index of m_wide
+        std::size_t length;
+    };
+
+    void Add(const Entry& entry);
+
+    const std::wstring* m_base;
+    std::uint64_t m_baseSize;
+    std::vector<Entry> m_added;
+    std::deque<std::wstring> m_wide;
+};
+
 /// The tables of one document while it is read. The names of elements and attributes are those of the document
 /// itself, so an index gives a name that nodes can take as it is.
 class ReaderVocabulary {
@@ -57,8 +94,8 @@ public:
     TextTable& GetPrefixes() noexcept { return m_prefixes; }
     TextTable& GetNamespaceNames() noexcept { return m_namespaceNames; }
     TextTable& GetLocalNames() noexcept { return m_localNames; }
-    TextTable& GetAttributeValues() noexcept { return m_attributeValues; }
-    TextTable& GetCharacterChunks() noexcept { return m_characterChunks; }
+    ValueTable& GetAttributeValues() noexcept { return m_attributeValues; }
+    ValueTable& GetCharacterChunks() noexcept { return m_characterChunks; }
 
     /// Null for an index that is not in the table.
     const XmlName* FindElementName(std::uint64_t index) { return Find(m_elementNames, index); }
@@ -96,8 +133,8 @@ private:
     TextTable m_prefixes;
     TextTable m_namespaceNames;
     TextTable m_localNames;
-    TextTable m_attributeValues;
-    TextTable m_characterChunks;
+    ValueTable m_attributeValues;
+    ValueTable m_characterChunks;
     QualifiedNames m_elementNames;
     QualifiedNames m_attributeNames;
 };

@@ -95,6 +95,21 @@ public:
         Parse(attribute.m_value, attribute.GetStorage(), type, rule, result);
     }
 
+    /// The text of an element or the value of its last attribute as units in the memory of the document, where it is
+    /// just these; null when it is not.
+    static const unsigned short* FindTextUnits(const CXmlElement& element, std::size_t length)
+    {
+        return element.m_text.GetUnitCount() == length ? element.m_text.GetUnits() : nullptr;
+    }
+    static const unsigned short* FindLastValueUnits(const CXmlElement& element)
+    {
+        return element.m_lastAttribute->m_value.GetUnits();
+    }
+    /// Makes units in the memory of the document the text of an element, which has none.
+    static void ShareText(CXmlElement& element, const unsigned short* units, std::size_t length)
+    {
+        element.m_text.Share(*element.GetStorage(), units, length);
+    }
     /// Appends units of UTF-16, carriage returns left out.
     static void AppendUnits(CXmlElement& element, const unsigned short* units, std::size_t count)
     {

@@ -110,6 +110,18 @@ void NodeText::AssignParsed(DocumentStorage& storage, const unsigned short* unit
     std::copy_n(units, length, m_units);
 }
 
+// What is appended later comes behind the units or makes a copy of them: the others never see it.
+void NodeText::Share(DocumentStorage& storage, const unsigned short* units, std::size_t length)
+{
+    if (!storage.KeepsTexts() || length > LONGEST_UNITS) {
+        AssignUtf16(GetForms(&storage).text, units, length);
+        return;
+    }
+    m_units = const_cast<unsigned short*>(units);
+    m_length = static_cast<std::uint32_t>(length);
+    m_capacity = m_length;
+}
+
 NodeForms& NodeText::GetForms(DocumentStorage* storage)
 {
     if (!IsWide()) {

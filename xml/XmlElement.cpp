@@ -149,6 +149,13 @@ void CXmlElement::AddParsedAttribute(const XmlName& name, const Utf16Unit* value
     AppendAttribute(std::move(attribute));
 }
 
+void CXmlElement::AddSharedAttribute(const XmlName& name, const Utf16Unit* value, std::size_t length)
+{
+    std::unique_ptr<CXmlAttribute> attribute(new (name.storage->GetAttributePool()) CXmlAttribute(this, name));
+    attribute->m_value.Share(*name.storage, value, length);
+    AppendAttribute(std::move(attribute));
+}
+
 void CXmlElement::AppendAttribute(std::unique_ptr<CXmlAttribute> attribute)
 {
     if (m_text.ListsAttributes()) {

@@ -54,6 +54,13 @@ public:
     void AppendCompact(DocumentStorage* storage, const wchar_t* text, std::size_t length);
     /// Takes the units of the value of an attribute as they are. The text is empty before.
     void AssignParsed(DocumentStorage& storage, const unsigned short* units, std::size_t length);
+    /// Takes units that lie in the memory of the document as long as that lives, and of which others know too. The text
+    /// is empty before.
+    void Share(DocumentStorage& storage, const unsigned short* units, std::size_t length);
+    /// The units of the text, null when there is only the wide form.
+    const unsigned short* GetUnits() const noexcept { return IsWide() ? nullptr : m_units; }
+    /// Number of these units.
+    std::size_t GetUnitCount() const noexcept { return m_length; }
     /// Whether the forms hold the list of attributes.
     bool ListsAttributes() const noexcept { return IsWide() && m_forms->listsAttributes; }
     /// The wide form, made at the first call; it is then updated in place.

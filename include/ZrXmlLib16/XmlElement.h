@@ -109,6 +109,7 @@ private:
     void AppendAttribute(std::unique_ptr<CXmlAttribute> attribute);
     void DeleteAttributes() noexcept;
     void AddParsedAttribute(const XmlName& name, const unsigned short* value, std::size_t length);
+    void AddSharedAttribute(const XmlName& name, const unsigned short* value, std::size_t length);
     void AddNamedAttribute(const XmlName& name, const std::wstring& value);
     DocumentStorage* GetStorage() const;
     void SetName(const std::wstring& namespaceUri, const std::wstring& localName);

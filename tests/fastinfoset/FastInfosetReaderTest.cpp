@@ -169,6 +169,27 @@ TEST(FastInfosetReader, CallsTheElementEndCallback)
     EXPECT_THROW(TestSupport::LoadOctets(failing, octets), std::runtime_error);
 }
 
+// Elements that got a text by its index share it; what is appended to one of them is not the others'.
+TEST(FastInfosetReader, AppendsToOneOfTheTextsThatShareAnIndex)
+{
+    ExpectTrees({
+        {"3C 00'a' 3C 00'b' 90'v' A0 80'w' F0 01 A0 80'x' F0 01 A0 A0 F0 01 A0 FF F0",
+            L"a (b 'vvw', b 'vx', b 'vv', b 'v')"},
+        {"3C 00'a' 3C 00'b' 80'w' 90'v' F0 01 A0 A0 FF F0", L"a (b 'wv', b 'vv')"},
+        {"3C 00'a' 3C 00'b' 91'v'0D F0 01 A0 80'x' FF F0", L"a (b 'v', b 'vx')"},
+        {"3C 00'a' 3C 00'b' 910D0D 80'x' F0 01 A0 80'y' FF F0", L"a (b 'x', b 'y')"},
+    });
+    CXmlDocument document;
+    TestSupport::LoadOctets(document, FastInfoset("3C 00'a' 3C 00'b' 90'v' F0 01 A0 F0 01 A0 FF F0"));
+    CXmlElement* const middle = document.GetDocumentElement()->GetFirstElement()->GetNextSiblingElement();
+    middle->AppendText(L"+");
+    EXPECT_EQ(L"a (b 'v', b 'v+', b 'v')", TestSupport::TreeText(document.GetDocumentElement()));
+    // Nodes that leave the tree take their texts with them.
+    CXmlDocument filtered([](CXmlElement* element) { return element->GetText() == L"v"; });
+    TestSupport::LoadOctets(filtered, FastInfoset("3C 00'a' 3C 00'b' 90'v' F0 01 A0 F0 01 A0 80'x' FF F0"));
+    EXPECT_EQ(L"a (b 'vx')", TestSupport::TreeText(filtered.GetDocumentElement()));
+}
+
 TEST(FastInfosetReader, StartsFromTheGeneratedVocabulary)
 {
     CSerializationContext context;
