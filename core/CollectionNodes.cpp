@@ -38,9 +38,7 @@ CXmlCollection::CNode* CXmlCollection::NodeBlocks::Create(CSmartPtr<CXmlObjectBa
         std::memcpy(&m_removed, place, sizeof(m_removed));
         return new (place) CNode(std::move(item));
     }
-    if (m_unused == m_end) {
-        AddBlock();
-    }
+    Reserve();
     return new (m_unused++) CNode(std::move(item));
 }
 

@@ -120,16 +120,13 @@ CXmlCollection::CNode* CXmlCollection::Insert(CSmartPtr<CXmlObjectBase> inserted
         throw CZrInvalidParamException(Message::ITEM_IS_NULL);
     }
     CheckItem(*item);
-    // The node holds the item before anybody is told, so that a listener's own reference cannot be the last one.
+    // The item is held while others are told, so that a listener's own reference cannot be the last one; and nobody is
+    // told of an addition for which there is no memory.
+    m_nodes.Reserve();
+    const unsigned long changes = m_changes;
+    FireOnCollectionAdd(item);
+    RequireUnchanged(changes);
     CNode* const node = m_nodes.Create(std::move(inserted));
-    try {
-        const unsigned long changes = m_changes;
-        FireOnCollectionAdd(item);
-        RequireUnchanged(changes);
-    } catch (...) {
-        m_nodes.Destroy(node);
-        throw;
-    }
     node->m_next = before;
     node->m_previous = before ? before->m_previous : m_last;
     (node->m_previous ? node->m_previous->m_next : m_first) = node;

@@ -96,6 +96,13 @@ private:
         NodeBlocks& operator=(const NodeBlocks&) = delete;
         ~NodeBlocks();
 
+        /// Makes room for the next node.
+        void Reserve()
+        {
+            if (!m_removed && m_unused == m_end) {
+                AddBlock();
+            }
+        }
         CNode* Create(CSmartPtr<CXmlObjectBase> item);
         void Destroy(CNode* node) noexcept;
         /// Takes over the blocks of another collection, which has none then.
