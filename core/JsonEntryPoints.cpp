@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The entry points of CXmlObjectBase for JSON.
-#include "ZrXmlLib16/Encoder.h"
 #include "ZrXmlLib16/FileTextStream.h"
 #include "ZrXmlLib16/Formatting.h"
 #include "ZrXmlLib16/JsonContext.h"
@@ -13,6 +12,7 @@
 #include "core/EntryPointFiles.h"
 #include "core/FormatSettings.h"
 #include "core/VersionCheck.h"
+#include "streams/Utf8Decoding.h"
 
 #include <optional>
 #include <utility>
@@ -81,13 +81,13 @@ void CXmlObjectBase::ReadConverted(CBinaryData bytes, const CSerializationContex
         // kept: required behaviour. The caller's context is altered for the time of the call.
         scope.emplace(context);
     }
-    std::wstring text;
+    const WideText text = DecodeUtf8Text(bytes.GetData(), bytes.GetLength());
+    bytes.Clear();
     try {
-        text = CEncoder::Utf8ToUnicode(bytes);
-        bytes.Clear();
-        FromXml(text.c_str(), context);
+        FromXml(text.characters.get(), context);
     } catch (const CZrException& exception) {
-        throw CZrException(FormatString(Message::JSON_CONVERSION_FAILED, text.c_str()), std::wstring(), exception);
+        throw CZrException(
+            FormatString(Message::JSON_CONVERSION_FAILED, text.characters.get()), std::wstring(), exception);
     }
 }
 

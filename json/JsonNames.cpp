@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "json/JsonNames.h"
 
+#include "core/TextEquality.h"
 #include "streams/UnicodeText.h"
 
 #include <cstdint>
@@ -108,7 +109,7 @@ JsonNames::JsonNames(JsonRoundTrip mode)
 
 const JsonName& JsonNames::Get(const std::wstring& member)
 {
-    if (!m_previous || !m_previous->follower || m_previous->follower->name.member != member) {
+    if (!m_previous || !m_previous->follower || !AreEqual(m_previous->follower->name.member, member)) {
         Entry& entry = Search(member);
         if (m_previous) {
             m_previous->follower = &entry;

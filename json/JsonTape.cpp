@@ -11,18 +11,25 @@ namespace ZrXmlLib16 {
 
 namespace {
 
-constexpr std::size_t BLOCK_LENGTH = 16384;
+constexpr std::size_t FIRST_BLOCK_LENGTH = 512;
+constexpr std::size_t LARGEST_BLOCK_LENGTH = 65536;
 
 } // namespace
+
+JsonTexts::JsonTexts()
+    : m_nextBlockLength(FIRST_BLOCK_LENGTH)
+{
+}
 
 const wchar_t* JsonTexts::Keep(std::wstring_view text)
 {
     if (text.size() > m_freeLength) {
-        const std::size_t length = std::max(text.size(), BLOCK_LENGTH);
+        const std::size_t length = std::max(text.size(), m_nextBlockLength);
         std::unique_ptr<wchar_t[]> block(new wchar_t[length]); // left uninitialised
         m_blocks.push_back(std::move(block));
         m_free = m_blocks.back().get();
         m_freeLength = length;
+        m_nextBlockLength = std::min(2 * m_nextBlockLength, LARGEST_BLOCK_LENGTH);
     }
     const wchar_t* const kept = m_free;
     m_free = std::copy(text.begin(), text.end(), m_free);

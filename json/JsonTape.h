@@ -36,6 +36,8 @@ struct JsonEvent {
 /// Keeps texts in blocks, so that growing moves nothing.
 class JsonTexts {
 public:
+    JsonTexts();
+
     /// @return the kept characters, which live as long as this object.
     const wchar_t* Keep(std::wstring_view text);
 
@@ -43,6 +45,7 @@ private:
     std::vector<std::unique_ptr<wchar_t[]>> m_blocks;
     wchar_t* m_free = nullptr; // behind the last text
     std::size_t m_freeLength = 0;
+    std::size_t m_nextBlockLength; // small documents need little
 };
 
 /// The values of one JSON document in the order of the text, without an allocation for each.

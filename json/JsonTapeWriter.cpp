@@ -11,7 +11,13 @@ namespace ZrXmlLib16 {
 
 namespace {
 
-constexpr std::wstring_view CDATA_START = L"<![CDATA[";
+/// Whether the writer would take the text for a CDATA section.
+bool BeginsLikeMarkup(std::wstring_view text)
+{
+    constexpr std::wstring_view CDATA_START = L"<![CDATA[";
+    return text.size() >= CDATA_START.size() && text[0] == CDATA_START[0]
+        && text.substr(0, CDATA_START.size()) == CDATA_START;
+}
 
 } // namespace
 
@@ -24,6 +30,11 @@ JsonTapeWriter::JsonTapeWriter(const JsonTape& tape, CXmlTextWriter& writer, con
     , m_nilAttribute(L"xsi:nil")
     , m_true(L"true")
 {
+}
+
+void JsonTapeWriter::LetJoinCalls(CXmlTextWriter& writer)
+{
+    static_cast<CXmlWriter&>(writer).m_joinsCalls = true;
 }
 
 void JsonTapeWriter::Write()
@@ -113,12 +124,25 @@ void JsonTapeWriter::WriteValue(const JsonEvent& event, bool isRoot)
     if (event.kind == JsonEvent::Kind::Array || (isNull && !isNil && !isRoot)) {
         return;
     }
+    if (event.kind == JsonEvent::Kind::Text && !m_declaresInstancePrefixNext && WriteTextElement(event)) {
+        return;
+    }
     StartElement(event);
     if (isNil) {
         m_writer.WriteAttributeString(m_nilAttribute, m_empty, m_true, ItemType_boolean);
     }
     WriteText(event);
     m_writer.WriteEndElement();
+}
+
+bool JsonTapeWriter::WriteTextElement(const JsonEvent& event)
+{
+    CXmlWriter& writer = m_writer;
+    if (!writer.m_joinsCalls || BeginsLikeMarkup(event.GetText())) {
+        return false;
+    }
+    m_value.assign(event.GetText());
+    return writer.WriteTextElement(event.name->xmlName, m_empty, m_value, ItemType_string, false);
 }
 
 void JsonTapeWriter::OpenObject(std::size_t object)
@@ -167,7 +191,7 @@ void JsonTapeWriter::WriteText(const JsonEvent& event)
         return;
     }
     const std::wstring_view text = event.GetText();
-    if (text.substr(0, CDATA_START.size()) == CDATA_START) {
+    if (BeginsLikeMarkup(text)) {
         // The writer would take the text for markup. It escapes both parts.
         m_value.assign(text, 0, 1);
         m_writer.WriteString(m_value, ItemType_string, false);

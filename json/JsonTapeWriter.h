@@ -20,6 +20,9 @@ public:
     JsonTapeWriter(const JsonTapeWriter&) = delete;
     JsonTapeWriter& operator=(const JsonTapeWriter&) = delete;
 
+    /// For a writer that is no more than a CXmlTextWriter: elements with text may then be written in one call.
+    static void LetJoinCalls(CXmlTextWriter& writer);
+
     /// Writes nothing for an empty tape.
     /// @throws CZrValidationException when the document has no root element or several.
     void Write();
@@ -34,6 +37,7 @@ private:
     std::size_t FindOnlyItem(std::size_t value) const;
     bool DeclaresInstancePrefix(std::size_t object) const;
     void WriteValue(const JsonEvent& event, bool isRoot);
+    bool WriteTextElement(const JsonEvent& event);
     void OpenObject(std::size_t object);
     void CloseObjectsAt(std::size_t index);
     void StartElement(const JsonEvent& event);

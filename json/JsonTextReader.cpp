@@ -33,6 +33,11 @@ struct CJsonTextReader::Literal {
 };
 
 CJsonTextReader::CJsonTextReader(const std::wstring& text)
+    : CJsonTextReader(std::wstring_view(text))
+{
+}
+
+CJsonTextReader::CJsonTextReader(std::wstring_view text)
     : m_handler(new CJsonReaderDefaultHandler)
     , m_maximumDepth(MAXIMUM_DEPTH)
     , m_allowComments(false)

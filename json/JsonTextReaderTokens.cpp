@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+#include <emmintrin.h>
+
 namespace ZrXmlLib16 {
 
 namespace {
@@ -24,6 +26,23 @@ bool IsSpace(wchar_t c)
 bool EndsRunOfString(wchar_t c)
 {
     return c == L'"' || c == L'\\' || c == L'\n';
+}
+
+/// The first character that ends a run, four characters at a time.
+const wchar_t* FindEndOfRun(const wchar_t* text, const wchar_t* end)
+{
+    constexpr std::ptrdiff_t STEP = 4;
+    for (; end - text >= STEP; text += STEP) {
+        const __m128i four = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text));
+        const __m128i quotes = _mm_cmpeq_epi32(four, _mm_set1_epi32(L'"'));
+        const __m128i escapes = _mm_cmpeq_epi32(four, _mm_set1_epi32(L'\\'));
+        const __m128i lines = _mm_cmpeq_epi32(four, _mm_set1_epi32(L'\n'));
+        const int found = _mm_movemask_ps(_mm_castsi128_ps(_mm_or_si128(_mm_or_si128(quotes, escapes), lines)));
+        if (found != 0) {
+            return text + __builtin_ctz(static_cast<unsigned int>(found));
+        }
+    }
+    return std::find_if(text, end, EndsRunOfString);
 }
 
 } // namespace
@@ -46,6 +65,10 @@ bool CJsonTextReader::ReadNextChar()
 /// The next character that is neither whitespace nor part of a comment.
 bool CJsonTextReader::ReadNextToken()
 {
+    if (m_position < m_text.size() && m_text[m_position] > L'/') {
+        m_currentCharacter = m_text[m_position++];
+        return true;
+    }
     while (ReadNextChar()) {
         if (IsSpace(m_currentCharacter)) {
             continue;
@@ -119,7 +142,7 @@ void CJsonTextReader::ReadNumber()
         RequireDigit();
         SkipDigits();
     }
-    m_value.assign(m_text, start, m_position - start);
+    m_value.assign(m_text.data() + start, m_position - start);
     ReadNextToken();
 }
 
@@ -155,9 +178,10 @@ void CJsonTextReader::ReadString()
     m_value.clear();
     for (;;) {
         const wchar_t* const start = m_text.data() + m_position;
-        const wchar_t* const runEnd = std::find_if(start, m_text.data() + m_text.size(), EndsRunOfString);
-        m_value.append(start, runEnd);
-        m_position += static_cast<std::size_t>(runEnd - start);
+        const wchar_t* const runEnd = FindEndOfRun(start, m_text.data() + m_text.size());
+        const std::size_t length = static_cast<std::size_t>(runEnd - start);
+        m_value.append(start, length);
+        m_position += length;
         RequireNextChar(Message::JSON_END_IN_STRING);
         if (m_currentCharacter == L'"') {
             ReadNextToken();

@@ -8,6 +8,7 @@
 #include "core/FormatSettings.h"
 #include "streams/Utf8TextStream.h"
 #include "json/JsonReaderMessages.h"
+#include "json/JsonTapeWriter.h"
 
 namespace ZrXmlLib16 {
 
@@ -37,10 +38,16 @@ private:
 
 CBinaryData CJsonTextReader::ConvertJsonToXml(const std::wstring& json, const CSerializationContext& context)
 {
+    return ConvertTextToXml(json, context);
+}
+
+CBinaryData CJsonTextReader::ConvertTextToXml(std::wstring_view json, const CSerializationContext& context)
+{
     const CJsonContext& settings = CFormatSettings::Json(context);
     // The items of an array repeat its name: a short text may stand for a very long document.
     LimitedStream stream(CFormatSettings::MaximumExpansion(context, json.size()));
     CXmlTextWriter writer(stream);
+    JsonTapeWriter::LetJoinCalls(writer);
     CJsonTextReader reader(json);
     CJsonReaderToXmlHandler handler(writer, settings.GetSupportRoundtrip(), *reader.GetErrorPathProvider());
     reader.SetJsonReaderHandler(&handler);

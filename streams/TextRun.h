@@ -52,8 +52,8 @@ public:
             const __m128i four = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text));
             _mm_storeu_si128(reinterpret_cast<__m128i*>(m_end), four);
             if (_mm_movemask_epi8(escapes.Candidates(four)) != 0) {
-                const wchar_t* const special =
-                    std::find_if(text, text + STEP, [&](wchar_t c) { return escapes.IsSpecial(c); });
+                const auto isSpecial = [&](wchar_t c) { return escapes.IsSpecial(c); };
+                const wchar_t* const special = std::find_if(text, text + STEP, isSpecial);
                 if (special != text + STEP) {
                     m_end += special - text;
                     return special;

@@ -3,7 +3,7 @@
 
 #include "streams/UnicodeText.h"
 
-#include <cstring>
+#include <emmintrin.h>
 
 namespace ZrXmlLib16 {
 
@@ -11,12 +11,34 @@ namespace {
 
 constexpr unsigned long ASCII_RUN = 8;
 
-bool IsAsciiRun(const unsigned char* data)
+void Store(__m128i units, void* output)
 {
-    std::uint64_t octets;
-    static_assert(sizeof(octets) == ASCII_RUN, "a run is read as one number");
-    std::memcpy(&octets, data, sizeof(octets));
-    return (octets & 0x8080808080808080U) == 0;
+    _mm_storeu_si128(static_cast<__m128i*>(output), units);
+}
+
+void WidenRun(__m128i units, unsigned short* output)
+{
+    Store(units, output);
+}
+
+void WidenRun(__m128i units, wchar_t* output)
+{
+    Store(_mm_unpacklo_epi16(units, _mm_setzero_si128()), output);
+    Store(_mm_unpackhi_epi16(units, _mm_setzero_si128()), output + ASCII_RUN / 2);
+}
+
+/// Decodes as many runs of ASCII as there are. @return the number of octets.
+template <class Unit> unsigned long DecodeAscii(const unsigned char* data, unsigned long length, Unit* output)
+{
+    unsigned long at = 0;
+    for (; length - at >= ASCII_RUN; at += ASCII_RUN) {
+        const __m128i octets = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(data + at));
+        if (_mm_movemask_epi8(octets) != 0) {
+            break;
+        }
+        WidenRun(_mm_unpacklo_epi8(octets, _mm_setzero_si128()), output + at);
+    }
+    return at;
 }
 
 bool IsTail(unsigned char octet)
@@ -79,14 +101,12 @@ template <class Unit> Unit* Decode(const unsigned char* data, unsigned long leng
     unsigned long at = 0;
     bool inIllFormedRun = false;
     while (at < length) {
-        while (length - at >= ASCII_RUN && IsAsciiRun(data + at)) {
-            for (unsigned long i = 0; i < ASCII_RUN; ++i) {
-                *output++ = static_cast<Unit>(data[at++]);
-            }
+        const unsigned long asciiLength = DecodeAscii(data + at, length - at, output);
+        if (asciiLength != 0) {
+            at += asciiLength;
+            output += asciiLength;
             inIllFormedRun = false;
-        }
-        if (at == length) {
-            break;
+            continue;
         }
         const DecodedSequence sequence = DecodeSequence(data + at, length - at);
         if (sequence.length == 0) {
@@ -116,6 +136,15 @@ std::wstring DecodeUtf8(const unsigned char* data, unsigned long length)
     std::wstring text(length, L'\0');
     const wchar_t* const end = DecodeUtf8(data, length, &text[0]);
     text.resize(static_cast<unsigned long>(end - text.data()));
+    return text;
+}
+
+WideText DecodeUtf8Text(const unsigned char* data, unsigned long length)
+{
+    WideText text;
+    text.characters.reset(new wchar_t[length + 1]); // left uninitialised
+    text.length = static_cast<unsigned long>(DecodeUtf8(data, length, text.characters.get()) - text.characters.get());
+    text.characters[text.length] = L'\0';
     return text;
 }
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The loaders of CXmlDocument: each fills the input buffer and has it parsed.
-#include "ZrXmlLib16/Encoder.h"
 #include "ZrXmlLib16/FastInfosetReader.h"
 #include "ZrXmlLib16/Formatting.h"
 #include "ZrXmlLib16/JsonTextReader.h"
@@ -12,6 +11,7 @@
 #include "core/FormatSettings.h"
 #include "core/TextArgument.h"
 #include "streams/FileHandle.h"
+#include "streams/Utf8Decoding.h"
 #include "xml/DocumentStorage.h"
 #include "xml/ExpatReader.h"
 #include "xml/XmlMessages.h"
@@ -109,7 +109,7 @@ CBinaryData CXmlDocument::LoadJson(const wchar_t* text)
     if (!text || !*text) {
         throw CZrException(Message::JSON_STRING_EMPTY);
     }
-    return CJsonTextReader::ConvertJsonToXml(text, *m_context);
+    return CJsonTextReader::ConvertTextToXml(text, *m_context);
 }
 
 CBinaryData CXmlDocument::LoadJsonStream(const unsigned char* bytes, unsigned long length)
@@ -138,9 +138,9 @@ CBinaryData CXmlDocument::ParseJson()
     Decompress();
     const bool isMarked = m_inputSize >= 3 && std::memcmp(m_input, "\xEF\xBB\xBF", 3) == 0;
     const unsigned long markLength = isMarked ? 3 : 0;
-    const std::wstring text = CEncoder::Utf8ToUnicode(m_input + markLength, m_inputSize - markLength);
+    const WideText text = DecodeUtf8Text(m_input + markLength, m_inputSize - markLength);
     DestroyInput();
-    return CJsonTextReader::ConvertJsonToXml(text, *m_context);
+    return CJsonTextReader::ConvertTextToXml(text.View(), *m_context);
 }
 
 void CXmlDocument::ReadFile(const wchar_t* fileName)

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace ZrXmlLib16 {
 
@@ -51,8 +52,11 @@ public:
     CJsonTextReader& operator=(const CJsonTextReader&) = delete;
 
 private:
+    friend class CXmlDocument;
     struct Literal;
 
+    explicit CJsonTextReader(std::wstring_view text);
+    static CBinaryData ConvertTextToXml(std::wstring_view json, const CSerializationContext& context);
     bool ReadNextChar();
     bool ReadNextToken();
     bool SkipComment();
@@ -79,7 +83,7 @@ private:
     int m_maximumDepth;
     bool m_allowComments;
     std::wstring m_rootElementName;
-    const std::wstring& m_text;
+    const std::wstring_view m_text;
     std::size_t m_position;
     wchar_t m_currentCharacter;
     bool m_endOfFile;

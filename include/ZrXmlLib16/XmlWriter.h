@@ -160,6 +160,7 @@ protected:
 private:
     friend class ZrXmlLib16Data::CRecordAccess;
     friend class CXmlObjectBase;
+    friend class JsonTapeWriter;
 
     /// Writes an element that is nothing but text, if that takes less than start, text and end; else nothing.
     /// @return whether it was written.
