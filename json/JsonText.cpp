@@ -56,7 +56,9 @@ void AppendJsonText(CTextStream& stream, const std::wstring& text, const std::ws
 {
     const wchar_t* position = text.data();
     const wchar_t* const end = position + text.size();
+    TextRun::Prefetch prefetch(position, end);
     while (position != end) {
+        prefetch.At(position);
         const wchar_t* const runEnd = TextRun::EndOfPiece(position, end);
         {
             TextRun run(stream, static_cast<std::size_t>(runEnd - position));

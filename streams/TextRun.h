@@ -16,12 +16,38 @@ namespace ZrXmlLib16 {
 /// again. The piece belongs to the stream when the run ends; meanwhile nothing else may use the stream.
 class TextRun {
 public:
+    static constexpr std::ptrdiff_t PIECE = 256;
+
     /// Texts of any length are put in pieces that fit into one run.
     static const wchar_t* EndOfPiece(const wchar_t* text, const wchar_t* end)
     {
-        constexpr std::ptrdiff_t LONGEST = 512;
-        return text + std::min(end - text, LONGEST);
+        return text + std::min(end - text, PIECE);
     }
+
+    /// Has a long text loaded a page ahead of where it is read, because the processor does not look beyond a page.
+    class Prefetch {
+    public:
+        explicit Prefetch(const wchar_t* text, const wchar_t* end)
+            : m_next(text)
+            , m_end(end)
+        {
+        }
+
+        /// To be called wherever the text is gone on with.
+        void At(const wchar_t* text)
+        {
+            constexpr std::ptrdiff_t LINE = 16;
+            constexpr std::ptrdiff_t PAGE = 1024;
+            const wchar_t* const stop = text + std::min(m_end - text, PAGE);
+            for (; stop - m_next >= LINE; m_next += LINE) {
+                __builtin_prefetch(m_next);
+            }
+        }
+
+    private:
+        const wchar_t* m_next;
+        const wchar_t* const m_end;
+    };
 
     /// @param length at least the number of characters that will be put.
     TextRun(CTextStream& stream, std::size_t length)

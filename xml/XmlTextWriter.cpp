@@ -403,8 +403,10 @@ void CXmlTextWriter::AppendEscaped(const std::wstring& text, bool isAttribute)
 void CXmlTextWriter::AppendEscaped(const wchar_t* position, const wchar_t* end, bool isAttribute)
 {
     const MarkupEscapes escapes(isAttribute);
+    TextRun::Prefetch prefetch(position, end);
     while (position != end) {
         const wchar_t* const runEnd = TextRun::EndOfPiece(position, end);
+        prefetch.At(position);
         {
             TextRun run(m_stream, static_cast<std::size_t>(runEnd - position));
             position = run.PutPlain(position, runEnd, escapes);
