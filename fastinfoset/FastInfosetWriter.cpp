@@ -139,19 +139,22 @@ bool CFastInfosetWriter::WriteTextElement(
     const std::wstring& name, const std::wstring& namespaceUri, const std::wstring& text, ItemType type, bool)
 {
     const CXmlWriterContext* const parent = GetCurrentContext();
-    if (!parent || (IsPrefixed(namespaceUri) && !parent->FindPrefix(namespaceUri))) {
-        return false; // the element invents a prefix
+    const std::wstring* prefix = parent ? &NoPrefix() : nullptr;
+    if (parent && IsPrefixed(namespaceUri)) {
+        prefix = parent->FindPrefix(namespaceUri);
+    }
+    if (!prefix) {
+        return false; // a root, or an element that invents a prefix
     }
     OctetWriter::FailureGuard guard(m_output->m_octets);
     CloseStartTag();
     WriteOwedTerminator();
     ItemWriter& items = m_output->m_items;
-    const std::wstring& prefix = PrefixOf(namespaceUri);
-    const WriterVocabulary::NameIndexes indexes = items.FindElementName(prefix, namespaceUri, name);
+    const WriterVocabulary::NameIndexes indexes = items.FindElementName(*prefix, namespaceUri, name);
     if (indexes.name != 0) {
         items.WriteElementIndex(0, indexes.name);
     } else {
-        items.WriteElementName(0, indexes, prefix, namespaceUri, name);
+        items.WriteElementName(0, indexes, *prefix, namespaceUri, name);
     }
     if (!text.empty()) {
         items.WriteCharacterChunk(text, type);

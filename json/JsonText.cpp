@@ -32,30 +32,9 @@ void AppendControl(CTextStream& stream, std::uint32_t code)
     stream.Append(digits[code & 15]);
 }
 
-} // namespace
-
-// kept: required behaviour. NaN and INF are bare like all numbers.
-void AppendJsonValue(CTextStream& stream, const std::wstring& value, ItemType type, const std::wstring& endOfLine)
+/// Ends at a NUL, if there is one.
+void AppendEscaped(CTextStream& stream, const wchar_t* position, const wchar_t* end, const std::wstring& endOfLine)
 {
-    const ItemTypeRow* const row = FindItemType(type);
-    if (row && row->isBareInJson) {
-        stream.Append(value);
-    } else {
-        AppendJsonString(stream, value, endOfLine);
-    }
-}
-
-void AppendJsonString(CTextStream& stream, const std::wstring& value, const std::wstring& endOfLine)
-{
-    stream.Append(L'"');
-    AppendJsonText(stream, value, endOfLine);
-    stream.Append(L'"');
-}
-
-void AppendJsonText(CTextStream& stream, const std::wstring& text, const std::wstring& endOfLine)
-{
-    const wchar_t* position = text.data();
-    const wchar_t* const end = position + text.size();
     TextRun::Prefetch prefetch(position, end);
     while (position != end) {
         prefetch.At(position);
@@ -79,6 +58,42 @@ void AppendJsonText(CTextStream& stream, const std::wstring& text, const std::ws
             AppendControl(stream, static_cast<std::uint32_t>(control));
         }
     }
+}
+
+} // namespace
+
+// kept: required behaviour. NaN and INF are bare like all numbers.
+void AppendJsonValue(CTextStream& stream, const std::wstring& value, ItemType type, const std::wstring& endOfLine)
+{
+    const ItemTypeRow* const row = FindItemType(type);
+    if (row && row->isBareInJson) {
+        stream.Append(value);
+    } else {
+        AppendJsonString(stream, value, endOfLine);
+    }
+}
+
+void AppendJsonString(CTextStream& stream, const std::wstring& value, const std::wstring& endOfLine)
+{
+    const wchar_t* position = value.data();
+    const wchar_t* const end = position + value.size();
+    const wchar_t* const runEnd = TextRun::EndOfPiece(position, end);
+    {
+        TextRun run(stream, 2 + static_cast<std::size_t>(runEnd - position));
+        run.Put(L'"');
+        position = run.PutPlain(position, runEnd, ControlEscapes());
+        if (position == end) {
+            run.Put(L'"');
+            return;
+        }
+    }
+    AppendEscaped(stream, position, end, endOfLine);
+    stream.Append(L'"');
+}
+
+void AppendJsonText(CTextStream& stream, const std::wstring& text, const std::wstring& endOfLine)
+{
+    AppendEscaped(stream, text.data(), text.data() + text.size(), endOfLine);
 }
 
 } // namespace ZrXmlLib16
