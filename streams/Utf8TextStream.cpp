@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "streams/Utf8TextStream.h"
 
+#include "streams/LargePages.h"
 #include "streams/UnicodeText.h"
 #include "streams/Utf8Encoding.h"
 
@@ -87,6 +88,7 @@ CBinaryData CUtf8TextStream::TakeOctets()
         return CBinaryData();
     }
     std::unique_ptr<unsigned char[]> octets(new unsigned char[m_length]);
+    PreferLargePages(octets.get(), m_length);
     unsigned char* out = octets.get();
     for (Chunk& chunk : m_chunks) {
         out = std::copy_n(chunk.octets.get(), chunk.used, out);

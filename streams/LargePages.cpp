@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "streams/LargePages.h"
+
+#include <cstdint>
+
+#include <sys/mman.h>
+
+namespace ZrXmlLib16 {
+
+void PreferLargePages(void* block, std::size_t size) noexcept
+{
+    constexpr std::size_t SMALLEST = std::size_t{8} << 20;
+    constexpr std::uintptr_t PAGE = std::uintptr_t{2} << 20;
+    if (size < SMALLEST) {
+        return;
+    }
+    const auto begin = reinterpret_cast<std::uintptr_t>(block);
+    const std::uintptr_t firstPage = (begin + PAGE - 1) / PAGE * PAGE;
+    const std::uintptr_t behindLast = (begin + size) / PAGE * PAGE;
+    // A system that knows no large pages refuses, which changes nothing.
+    madvise(reinterpret_cast<void*>(firstPage), behindLast - firstPage, MADV_HUGEPAGE);
+}
+
+} // namespace ZrXmlLib16
