@@ -56,7 +56,8 @@ void CUtf8TextStream::Encode()
 {
     if (m_buffer.m_blocks.size() == 1) {
         const TextPiece piece = {m_buffer.m_current, m_buffer.m_usedInCurrent};
-        unsigned char* const room = MakeOctetRoom(LONGEST_CHARACTER * piece.length);
+        const unsigned long longest = LONGEST_CHARACTER * piece.length;
+        unsigned char* const room = MakeOctetRoom(HasOctetRoom(longest) ? longest : Utf8Length(&piece, 1));
         CountOctets(static_cast<unsigned long>(WriteUtf8(&piece, 1, room) - room));
     } else {
         const CBinaryData octets = EncodeUtf8();
@@ -72,10 +73,15 @@ void CUtf8TextStream::CountOctets(unsigned long count)
     m_length += count;
 }
 
+bool CUtf8TextStream::HasOctetRoom(unsigned long size) const
+{
+    return !m_chunks.empty() && size <= m_chunks.back().size - m_chunks.back().used;
+}
+
 unsigned char* CUtf8TextStream::MakeOctetRoom(unsigned long size)
 {
-    if (m_chunks.empty() || m_chunks.back().size - m_chunks.back().used < size) {
-        const unsigned long chunkSize = std::max(size, std::min(m_length, LARGEST_CHUNK));
+    if (!HasOctetRoom(size)) {
+        const unsigned long chunkSize = std::max(size, std::min(m_length / 2, LARGEST_CHUNK));
         m_chunks.push_back({std::unique_ptr<unsigned char[]>(new unsigned char[chunkSize]), 0, chunkSize});
     }
     return m_chunks.back().octets.get() + m_chunks.back().used;
