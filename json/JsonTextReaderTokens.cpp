@@ -65,10 +65,20 @@ bool CJsonTextReader::ReadNextChar()
 /// The next character that is neither whitespace nor part of a comment.
 bool CJsonTextReader::ReadNextToken()
 {
-    if (m_position < m_text.size() && m_text[m_position] > L'/') {
-        m_currentCharacter = m_text[m_position++];
+    std::size_t position = m_position;
+    while (position < m_text.size() && m_text[position] == L' ') {
+        ++position;
+    }
+    if (position < m_text.size() && m_text[position] > L' ' && m_text[position] != L'/') {
+        m_currentCharacter = m_text[position];
+        m_position = position + 1;
         return true;
     }
+    return FindNextToken();
+}
+
+bool CJsonTextReader::FindNextToken()
+{
     while (ReadNextChar()) {
         if (IsSpace(m_currentCharacter)) {
             continue;

@@ -2,9 +2,12 @@
 #include "lexical/NumberText.h"
 
 #include "core/CLocale.h"
+#include "values/DigitText.h"
 
 #include <charconv>
 #include <climits>
+#include <cmath>
+#include <cstdint>
 #include <cstdlib>
 
 namespace ZrXmlLib16::NumberText {
@@ -128,20 +131,58 @@ template <std::size_t Size> void AppendAscii(const char (&buffer)[Size], const c
     text.append(wide, static_cast<std::size_t>(out - wide));
 }
 
-void AppendDigits(unsigned long long value, bool isNegative, std::wstring& text)
+/// Whether a value and the nearest decimal fraction to it, `digits` / `power`, have the same first sixteen digits.
+bool AgreeInSixteenDigits(double value, std::uint64_t digits, double power)
 {
-    constexpr std::size_t SIGN_AND_DIGITS = 21;
-    wchar_t buffer[SIGN_AND_DIGITS];
-    wchar_t* const end = buffer + SIGN_AND_DIGITS;
-    wchar_t* begin = end;
-    do {
-        *--begin = static_cast<wchar_t>(L'0' + value % 10);
-        value /= 10;
-    } while (value != 0);
-    if (isNegative) {
-        *--begin = L'-';
+    std::uint64_t aboveFirstDigit = 10;
+    double halfOfLastDigit = 0.5e-15; // in units of the last of `digits`
+    for (; aboveFirstDigit <= digits; aboveFirstDigit *= 10) {
+        halfOfLastDigit *= 10;
     }
-    text.append(begin, static_cast<std::size_t>(end - begin));
+    const double difference = std::fma(value, power, -static_cast<double>(digits));
+    const bool hasOneDigitLess = difference < 0 && digits * 10 == aboveFirstDigit;
+    return !hasOneDigitLess && std::fabs(difference) < 0.99 * halfOfLastDigit;
+}
+
+void AppendFraction(bool isNegative, std::uint64_t digits, std::uint64_t power, int places, std::wstring& text)
+{
+    wchar_t buffer[24];
+    wchar_t* end = buffer;
+    if (isNegative) {
+        *end++ = L'-';
+    }
+    end = WriteNumber(end, digits / power);
+    if (places > 0) {
+        *end++ = L'.';
+        end = WriteFixedDigits(end, static_cast<std::uint32_t>(digits % power), places);
+    }
+    text.append(buffer, static_cast<std::size_t>(end - buffer));
+}
+
+/// Appends what "%.16g" makes of a number of few decimal places, which most numbers are: times a power of ten it is an
+/// integer. @return false for any other number; nothing is appended then.
+bool AppendFewPlaces(double value, std::wstring& text)
+{
+    constexpr double POWERS[] = {1, 1e1, 1e2, 1e3, 1e4};
+    constexpr double SMALLEST = 1e-4; // smaller ones have an exponent
+    constexpr double LIMIT = 1e15;    // below it every integer is a double
+    const double magnitude = std::fabs(value);
+    int places = 0;
+    for (const double power : POWERS) {
+        if (!(magnitude >= SMALLEST && magnitude * power < LIMIT)) {
+            return false;
+        }
+        const auto digits = static_cast<std::uint64_t>(magnitude * power + 0.5);
+        if (static_cast<double>(digits) / power == magnitude) {
+            if (!AgreeInSixteenDigits(magnitude, digits, power)) {
+                return false;
+            }
+            AppendFraction(value < 0, digits, static_cast<std::uint64_t>(power), places, text);
+            return true;
+        }
+        ++places;
+    }
+    return false;
 }
 
 } // namespace
@@ -192,18 +233,25 @@ bool ScanDouble(const std::wstring& text, double& value)
 
 void AppendInteger(long long value, std::wstring& text)
 {
+    if (value < 0) {
+        text.push_back(L'-');
+    }
     // Negated as unsigned: LLONG_MIN has no positive counterpart.
     const auto bits = static_cast<unsigned long long>(value);
-    AppendDigits(value < 0 ? 0 - bits : bits, value < 0, text);
+    AppendUnsigned(value < 0 ? 0 - bits : bits, text);
 }
 
 void AppendUnsigned(unsigned long long value, std::wstring& text)
 {
-    AppendDigits(value, false, text);
+    wchar_t buffer[20];
+    text.append(buffer, static_cast<std::size_t>(WriteNumber(buffer, value) - buffer));
 }
 
 void AppendGeneral(double value, int precision, std::wstring& text)
 {
+    if (precision == 16 && AppendFewPlaces(value, text)) {
+        return;
+    }
     // Sign, 17 digits, point, four leading zeros or an exponent of five characters fit with room to spare.
     char buffer[48];
     const std::to_chars_result result =

@@ -2,8 +2,8 @@
 #include "lexical/PlainValue.h"
 
 #include "ZrXmlLib16/ZrVariant.h"
-#include "core/HugePages.h"
 #include "lexical/ShortText.h"
+#include "streams/LargePages.h"
 
 #include <algorithm>
 #include <charconv>
@@ -104,13 +104,13 @@ bool PlainValue::ReadDateTime(
 
 void PlainValue::ReadString(const unsigned short* units, std::size_t length, ZrVariant& value)
 {
-    if (length < LEAST_FOR_HUGE_PAGES / sizeof(wchar_t)) {
+    if (length < LEAST_FOR_LARGE_PAGES / sizeof(wchar_t)) {
         value.Begin(ItemType_string, &ZrVariant::Value::string, units, units + length);
         return;
     }
     std::wstring& text = value.Begin(ItemType_string, &ZrVariant::Value::string);
     text.reserve(length);
-    AdviseHugePages(text.data(), length * sizeof(wchar_t));
+    PreferLargePages(text.data(), length * sizeof(wchar_t));
     text.resize(length);
     std::copy_n(units, length, text.begin());
 }

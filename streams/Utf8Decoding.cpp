@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "streams/Utf8Decoding.h"
 
+#include "streams/LargePages.h"
 #include "streams/UnicodeText.h"
 
 #include <emmintrin.h>
@@ -168,6 +169,7 @@ WideText DecodeUtf8Text(const unsigned char* data, unsigned long length)
 {
     WideText text;
     text.characters.reset(new wchar_t[length + 1]); // left uninitialised
+    PreferLargePages(text.characters.get(), (length + 1) * sizeof(wchar_t));
     text.length = static_cast<unsigned long>(DecodeUtf8(data, length, text.characters.get()) - text.characters.get());
     text.characters[text.length] = L'\0';
     return text;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "streams/Utf8TextStream.h"
 
+#include "streams/LargePages.h"
 #include "streams/UnicodeText.h"
 #include "streams/Utf8Encoding.h"
 
@@ -55,7 +56,8 @@ void CUtf8TextStream::Encode()
 {
     if (m_buffer.m_blocks.size() == 1) {
         const TextPiece piece = {m_buffer.m_current, m_buffer.m_usedInCurrent};
-        unsigned char* const room = MakeOctetRoom(LONGEST_CHARACTER * piece.length);
+        const unsigned long longest = LONGEST_CHARACTER * piece.length;
+        unsigned char* const room = MakeOctetRoom(HasOctetRoom(longest) ? longest : Utf8Length(&piece, 1));
         CountOctets(static_cast<unsigned long>(WriteUtf8(&piece, 1, room) - room));
     } else {
         const CBinaryData octets = EncodeUtf8();
@@ -71,10 +73,15 @@ void CUtf8TextStream::CountOctets(unsigned long count)
     m_length += count;
 }
 
+bool CUtf8TextStream::HasOctetRoom(unsigned long size) const
+{
+    return !m_chunks.empty() && size <= m_chunks.back().size - m_chunks.back().used;
+}
+
 unsigned char* CUtf8TextStream::MakeOctetRoom(unsigned long size)
 {
-    if (m_chunks.empty() || m_chunks.back().size - m_chunks.back().used < size) {
-        const unsigned long chunkSize = std::max(size, std::min(m_length, LARGEST_CHUNK));
+    if (!HasOctetRoom(size)) {
+        const unsigned long chunkSize = std::max(size, std::min(m_length / 2, LARGEST_CHUNK));
         m_chunks.push_back({std::unique_ptr<unsigned char[]>(new unsigned char[chunkSize]), 0, chunkSize});
     }
     return m_chunks.back().octets.get() + m_chunks.back().used;
@@ -87,6 +94,7 @@ CBinaryData CUtf8TextStream::TakeOctets()
         return CBinaryData();
     }
     std::unique_ptr<unsigned char[]> octets(new unsigned char[m_length]);
+    PreferLargePages(octets.get(), m_length);
     unsigned char* out = octets.get();
     for (Chunk& chunk : m_chunks) {
         out = std::copy_n(chunk.octets.get(), chunk.used, out);

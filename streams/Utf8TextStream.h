@@ -33,6 +33,7 @@ private:
     void MakeRoom(unsigned long length) override;
     void Encode();
     void CountOctets(unsigned long count);
+    bool HasOctetRoom(unsigned long size) const;
     unsigned char* MakeOctetRoom(unsigned long size);
 
     std::vector<Chunk> m_chunks;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "xml/Arena.h"
 
-#include "core/HugePages.h"
+#include "streams/LargePages.h"
 
 #include <algorithm>
 
@@ -19,7 +19,7 @@ void* Arena::AllocateFromNewChunk(std::size_t size)
     const std::size_t chunkSize = std::max({size, usual, SMALLEST_CHUNK});
     m_chunks.push_back(std::unique_ptr<unsigned char[]>(new unsigned char[chunkSize + SLACK]));
     unsigned char* const start = m_chunks.back().get();
-    AdviseHugePages(start, chunkSize);
+    PreferLargePages(start, chunkSize);
     m_total += chunkSize;
     m_free = start + size;
     m_end = start + chunkSize;

@@ -11,6 +11,7 @@
 #include "core/FormatSettings.h"
 #include "core/TextArgument.h"
 #include "streams/FileHandle.h"
+#include "streams/LargePages.h"
 #include "streams/Utf8Decoding.h"
 #include "xml/DocumentStorage.h"
 #include "xml/ExpatReader.h"
@@ -167,6 +168,7 @@ void CXmlDocument::ReadFile(const wchar_t* fileName)
 void CXmlDocument::AllocateInput(unsigned long size)
 {
     m_inputBuffer.reset(new unsigned char[size]);
+    PreferLargePages(m_inputBuffer.get(), size);
     m_input = m_inputBuffer.get();
     m_inputSize = size;
 }

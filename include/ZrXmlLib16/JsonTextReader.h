@@ -59,6 +59,7 @@ private:
     static CBinaryData ConvertTextToXml(std::wstring_view json, const CSerializationContext& context);
     bool ReadNextChar();
     bool ReadNextToken();
+    bool FindNextToken();
     bool SkipComment();
     bool ReadNextChars(wchar_t* buffer, std::size_t count);
     void ReadValue(int depth);

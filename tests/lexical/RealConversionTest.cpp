@@ -92,6 +92,28 @@ TEST(RealConversion, RandomBitPatternsAgreeWithTheCLibrary)
     }
 }
 
+TEST(RealConversion, NumbersOfFewPlacesAgreeWithTheCLibrary)
+{
+    std::mt19937_64 random(7);
+    const double powers[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5};
+    const auto check = [](double value) {
+        ASSERT_EQ(Printf("%.16g", value), CConversions::r8ToString(value)) << std::hexfloat << value;
+    };
+    for (int round = 0; round < 400000; ++round) {
+        // As many digits as there are powers of two in a number below 2^51, at all places.
+        const double digits = static_cast<double>(random() >> (13 + random() % 50));
+        const double value = digits / powers[random() % 6] * (round % 2 == 0 ? 1 : -1);
+        for (const double near : {value, std::nextafter(value, 0), std::nextafter(value, 1e300)}) {
+            check(near);
+        }
+    }
+    for (double tenth = 1e-5; tenth < 1e17; tenth *= 10) {
+        for (const double value : {tenth, std::nextafter(tenth, 0), std::nextafter(tenth, 1e300), 9 * tenth}) {
+            check(value);
+        }
+    }
+}
+
 TEST(RealConversion, RandomTextsAreAcceptedExactlyWhenTheCLibraryReadsThemWhole)
 {
     std::mt19937_64 random(2);
