@@ -30,7 +30,7 @@ static_assert(sizeof(XML_Char) == 2 && std::is_same_v<XML_Char, Utf16Unit>);
 
 constexpr XML_Char NAMESPACE_SEPARATOR = L'|';
 // The parser copies what it is given, so it is given a part at a time.
-constexpr unsigned long SMALLEST_SLICE = 1ul << 20;
+constexpr unsigned long SMALLEST_SLICE = 1ul << 22;
 constexpr unsigned long LARGEST_SLICE = 1ul << 30;
 constexpr unsigned long LARGEST_EXPANSION = 1ul << 60;
 // What the parser needs whatever the document, several times.

@@ -127,10 +127,10 @@ TEST(Position, OctetsOfLineEndsInsideUtf16)
     EXPECT_EQ("r 1:1 a 2:2", Positions(document.GetDocumentElement()));
 }
 
-// The parser gets a megabyte at a time.
+// The parser gets four megabytes at a time.
 TEST(Position, AcrossTheParsersSlices)
 {
-    constexpr std::size_t SLICE = 1 << 20;
+    constexpr std::size_t SLICE = 4 << 20;
     for (std::size_t length = SLICE - 12; length < SLICE + 2; ++length) {
         const std::string text =
             "<r>" + std::string(length - 3, ' ') + "\r\n<a/>\r<b/>\n" + std::string(SLICE, '\n') + "<c/></r>";
