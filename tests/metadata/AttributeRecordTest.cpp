@@ -89,6 +89,18 @@ TEST(AttributeRecord, WildcardPropertyMustBeAnAttributeCollection)
         FailureOf([&] { order.FromXml("<order a='1'/>"); }));
 }
 
+TEST(AttributeRecord, PropertiesThatCannotBeAccessed)
+{
+    TestObject order(Class(L"order").Attr(L"id"));
+    order.Set(L"id", L"1");
+    order.m_onAccess = [](const std::wstring& property, bool) { throw CZrException(L"no " + property); };
+    EXPECT_EQ("Validation: Failed to convert the element [order] to XML <- Zr: Failed to convert the attributes to XML "
+              "<- Validation: Failed to get the property value for [id]. <- Zr: no id",
+        Write(order));
+    EXPECT_EQ("Validation: Failed to set property value.\nPath: /order/@id <- Zr: no id",
+        FailureOf([&] { order.FromXml("<order id='1'/>"); }));
+}
+
 TEST(AttributeRecord, MoreRecordsThanFitABitmap)
 {
     TestClass type = Class(L"order");
