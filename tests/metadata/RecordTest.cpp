@@ -105,7 +105,7 @@ TEST(Record, FactoriesThatGiveNothing)
     const auto byElement = [](CXmlElement*) { return CSmartPtr<CXmlObjectBase>(); };
     const std::string noObject =
         Unprocessed("/order", "InvalidState: The class factory gave no object for the element [c]");
-    const std::string noType = "Zr: Failed to find the required child element [c].\nPath: /order";
+    const std::string noType = "Zr: Failed to find a suitable substitution element for [c].\nPath: /order";
     const struct {
         CElementInfo* record; // owned by its class
         std::string expected;
