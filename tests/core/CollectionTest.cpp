@@ -66,7 +66,7 @@ struct Listener final : IEventSink {
 
 TEST(Collection, ChangesAndTheirEvents)
 {
-    const CSmartPtr<TestCollection> items = NewCollection();
+    const CSmartPtr<TestCollection> items = NewCollection(), others = NewCollection(1);
     const CSmartPtr<TestObject> b = NewItem(L"b"), stranger = NewItem(L"x");
     Listener listener;
     items->AddEventListener(&listener);
@@ -92,6 +92,8 @@ TEST(Collection, ChangesAndTheirEvents)
         {[&] { items->AppendItem(nullptr); }, "acd", "InvalidParam: An item of a collection may not be NULL"},
         {[&] { items->AddAfterItem(b, stranger); }, "acd", notHeld},
         {[&] { items->AddBeforeItem(nullptr, stranger); }, "acd", notHeld},
+        {[&] { items->RemoveNode(others->GetNodeAtIndex(0)); }, "acd", notHeld},
+        {[&] { items->RemoveNode(nullptr); }, "acd", notHeld},
         {[&] { items->Clear(); }, "", "-3 ~0 !0"},
     };
     for (const auto& step : steps) {
@@ -150,6 +152,16 @@ TEST(Collection, ListenersMayNotTakeThePlaceOfAChange)
             FailureOf([&] { removes ? items->Remove(0) : void(items->PrependItem(NewItem(L"x"))); }));
         EXPECT_EQ(0, items->GetCount());
     }
+}
+
+TEST(Collection, ReadsNothingWithoutAFactory)
+{
+    TestObject order(Class(L"order").Cls(L"item", ItemClass()).Col());
+    order.m_onAccess = [&](const std::wstring&, bool) {
+        order[L"item"].SetXmlCollection(new CXmlCollection(L"item", L"", 0, -1));
+    };
+    EXPECT_EQ(Unprocessed("/order", "InvalidState: The collection does not know how to create its items"),
+        FailureOf([&] { order.FromXml("<order><item/></order>"); }));
 }
 
 TEST(Collection, ManyItems)

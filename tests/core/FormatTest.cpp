@@ -158,6 +158,12 @@ TEST_F(Format, OctetsAreThoseOfTheText)
         ASSERT_TRUE(m_order.ToJsonStream(true, Encoding_UTF8, EOL_LF, m_context)
             == CEncoder::UnicodeToUtf8Binary(m_order.ToJson(true, EOL_LF, m_context)));
     }
+    // The writer lets go what it has after a text, here behind one half of a pair.
+    for (const wchar_t* half : {L"\xD83D", L"\xDE00", L"\xD83D\xD83D"}) {
+        m_order.Set(L"note", (std::wstring(20000, L'a') + half).c_str());
+        EXPECT_TRUE(m_order.ToXmlStream(false, true, Encoding_UTF8, EOL_LF, m_context)
+            == CEncoder::UnicodeToUtf8Binary(m_order.ToXml(false, true, EOL_LF, m_context)));
+    }
 }
 
 TEST_F(Format, EveryFastInfosetFormReadsBack)

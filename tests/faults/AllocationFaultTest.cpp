@@ -178,6 +178,30 @@ TEST_F(AllocationFaults, OfWriting)
         [&] { return m_object.ToJsonStream(false, Encoding_UTF8, EOL_LF, m_context) == m_json; });
 }
 
+TEST_F(AllocationFaults, OfCompression)
+{
+    // Long enough that the decompressor keeps what it gave out, which takes memory of its own.
+    std::string octets(200000, 'x');
+    CBinaryData plain;
+    plain.SetBuffer(reinterpret_cast<unsigned char*>(&octets[0]), octets.size());
+    for (const CompressionType type : {Compression_GZip, Compression_ZLib}) {
+        CBinaryData zipped(plain);
+        CZrZip::CompressData(zipped, type);
+        FailEach(
+            [&] {
+                CBinaryData copy(plain);
+                CZrZip::CompressData(copy, type);
+            },
+            [&] { return zipped.GetLength() < plain.GetLength(); });
+        const auto unzipped = [&] {
+            CBinaryData result;
+            CZrZip::DecompressData(zipped.GetData(), zipped.GetLength(), octets.size(), result);
+            return result;
+        };
+        FailEach(unzipped, [&] { return unzipped() == plain; });
+    }
+}
+
 TEST_F(AllocationFaults, OfFiles)
 {
     const std::filesystem::path folder =

@@ -89,6 +89,25 @@ TEST(AttributeRecord, WildcardPropertyMustBeAnAttributeCollection)
         FailureOf([&] { order.FromXml("<order a='1'/>"); }));
 }
 
+TEST(AttributeRecord, PropertiesThatCannotBeAccessed)
+{
+    TestObject order(Class(L"order").Attr(L"id").AnyAttr(L"others", L"##any"));
+    order.Set(L"id", L"1");
+    std::wstring broken = L"id";
+    order.m_onAccess = [&](const std::wstring& property, bool) {
+        if (property == broken)
+            throw CZrException(L"no " + property);
+    };
+    EXPECT_EQ("Validation: Failed to convert the element [order] to XML <- Zr: Failed to convert attributes to XML <- "
+              "Zr: no id",
+        Write(order));
+    EXPECT_EQ("Zr: Failed to set the property value.\nPath: /order/@id <- Zr: no id",
+        FailureOf([&] { order.FromXml("<order id='1'/>"); }));
+    broken = L"others";
+    EXPECT_EQ(Unprocessed("/order", "Validation: Failed to get the property value for [others]. <- Zr: no others"),
+        FailureOf([&] { order.FromXml("<order a='1'/>"); }));
+}
+
 TEST(AttributeRecord, MoreRecordsThanFitABitmap)
 {
     TestClass type = Class(L"order");

@@ -2,6 +2,8 @@
 #include "support/Failure.h"
 #include "support/RecordingWriter.h"
 
+#include <utility>
+
 using namespace ZrXmlLib16;
 using namespace ZrXmlLib16Data;
 using namespace TestSupport;
@@ -94,6 +96,28 @@ TEST(Record, NamespaceWildcards)
             accepted += valid ? L'y' : L'n';
         }
         EXPECT_EQ(row[2], accepted) << Narrow(row[0]);
+    }
+}
+
+TEST(Record, FactoriesThatGiveNothing)
+{
+    const auto byNumber = [](int, const wchar_t*) { return CSmartPtr<CXmlObjectBase>(); };
+    const auto byElement = [](CXmlElement*) { return CSmartPtr<CXmlObjectBase>(); };
+    const std::string noObject =
+        Unprocessed("/order", "InvalidState: The class factory gave no object for the element [c]");
+    const std::string noType = "Zr: Failed to find a suitable substitution element for [c].\nPath: /order";
+    const struct {
+        CElementInfo* record; // owned by its class
+        std::string expected;
+    } rows[] = {{new CElementInfoSeqClsMnd(L"c", L"", 0, XmlElementType_Element, byNumber, 0, false), noObject},
+        {new CElementInfoSeqClsOpt(L"c", L"", 0, XmlElementType_Group, byNumber, 0, true), noObject},
+        {new CElementInfoSeqAbsClsMnd(L"c", L"", 0, XmlElementType_Element, byElement), noType + "/c"},
+        {new CElementInfoSeqAbsClsMnd(L"c", L"", 0, XmlElementType_Group, byElement), noType}};
+    for (const auto& row : rows) {
+        const TestClass type = Class(L"order").AbsCls(L"c");
+        type.Data().BuildTables();
+        delete std::exchange(type.Data().elements[0], row.record);
+        EXPECT_EQ(row.expected, Read(type, L"<order><c/></order>")) << &row - rows;
     }
 }
 

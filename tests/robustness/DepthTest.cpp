@@ -73,6 +73,14 @@ const CElement* FirstElement(const CElement* element)
     return children->GetCount() > 0 ? children->Item(0) : nullptr;
 }
 
+void WriteNested(CXmlWriter& writer, std::size_t depth)
+{
+    for (std::size_t i = 0; i < depth; ++i)
+        writer.WriteStartElement(L"n", L"");
+    for (std::size_t i = 0; i < depth; ++i)
+        writer.WriteEndElement();
+}
+
 /// Runs the action in a thread of its own and tells how much of its stack it wrote to.
 std::size_t StackOf(const std::function<void()>& action)
 {
@@ -164,16 +172,34 @@ TEST(Nesting, WritersTakeAnyDepth)
 {
     for (const std::size_t depth : DEPTHS)
         RunOnStack(SMALL_STACK, [depth] {
-            CTextStream stream;
-            CXmlTextWriter writer(stream);
-            writer.SetFormat(false); // indentation grows with the square of the depth
-            writer.Open();
-            for (std::size_t i = 0; i < depth; ++i)
-                writer.WriteStartElement(L"n", L"");
-            for (std::size_t i = 0; i < depth; ++i)
-                writer.WriteEndElement();
-            writer.Close();
-            EXPECT_EQ(7 * depth - 3, stream.GetLength());
+            CTextStream xmlText;
+            CXmlTextWriter xml(xmlText);
+            xml.SetFormat(false); // indentation grows with the square of the depth
+            xml.Open();
+            WriteNested(xml, depth);
+            xml.Close();
+            EXPECT_EQ(7 * depth - 3, xmlText.GetLength());
+
+            CTextStream jsonText;
+            CJsonTextWriter json(jsonText);
+            json.SetFormat(false);
+            json.Open();
+            json.WriteStartDocument();
+            WriteNested(json, depth);
+            json.WriteEndDocument();
+            json.Close();
+            EXPECT_LT(6 * depth, jsonText.GetLength());
+
+            const CFastInfosetContext settings;
+            CBinaryData octets;
+            CBinaryStream stream(octets);
+            CFastInfosetWriter infoset(settings, stream);
+            infoset.WriteStartDocument(FInfoDecl_None);
+            WriteNested(infoset, depth);
+            infoset.WriteEndDocument();
+            CXmlDocument document;
+            document.LoadXmlStream(octets.GetData(), octets.GetLength());
+            EXPECT_EQ(depth, DepthOf<CXmlElement>(document.GetDocumentElement(), FirstNode));
         });
 }
 

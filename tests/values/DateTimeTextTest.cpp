@@ -145,6 +145,11 @@ TEST(DateTimeText, SettersRefuseWhatIsNoDateOrTime)
     EXPECT_EQ(Refusal([&] { value.SetTime(0, 0, 0, 0, 1000, 0); }), L"The time is out of range");
     EXPECT_EQ(Refusal([&] { value.SetTimeZone(841); }), L"The time zone is out of range");
     EXPECT_EQ(value.ToString(), L"0001-01-01T00:00:00");
+    value.SetTime(23, 59, 59, 999, 999, 999);
+    value.SetTimeZone(-840);
+    EXPECT_EQ(value.ToString(), L"0001-01-01T23:59:59.999999999-14:00");
+    value.ClearTimeZone();
+    EXPECT_EQ(value.ToString(), L"0001-01-01T23:59:59.999999999");
 }
 
 TEST(DateTimeSpan, AcceptedTextsPrintInCanonicalForm)

@@ -116,6 +116,20 @@ TEST(Decimal, TextIsCanonicalAndDigitsAreCounted)
         L"decimal", {L"", L".", L"-", L"-.", L"1..2", L"1.2.3", L"1e5", L"1,5", L" 1", L"1 ", L"+-1", L"INF"});
 }
 
+TEST(Decimal, ComesFromIntegers)
+{
+    for (const long long number :
+        {0LL, 1LL, -1LL, 10LL, -90LL, std::numeric_limits<long long>::min(), std::numeric_limits<long long>::max()}) {
+        const std::wstring text = std::to_wstring(number);
+        EXPECT_EQ(CDecimal(number).ToString(), text);
+        EXPECT_EQ(CDecimal(number), CDecimal(text.c_str()));
+        EXPECT_EQ(CDecimal(number).IsNegative(), number < 0);
+        EXPECT_EQ(CBigInteger(number).ToString(), text);
+    }
+    EXPECT_EQ(CDecimal(-7), CDecimal(-7L));
+    EXPECT_EQ(CBigInteger(-7), CBigInteger(-7L));
+}
+
 TEST(Decimal, OrderAgreesWithScaledIntegers)
 {
     std::vector<std::pair<int, CDecimal>> numbers;

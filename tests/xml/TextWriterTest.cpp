@@ -3,6 +3,7 @@
 #include "ZrXmlLib16/XmlTextWriter.h"
 #include "ZrXmlLib16/ZrInvalidStateException.h"
 #include "support/TestText.h"
+#include "xml/TreeText.h"
 
 using namespace ZrXmlLib16;
 using TestSupport::MessageOf;
@@ -110,6 +111,30 @@ TEST(TextWriter, keeps_EscapesOfTextAndAttributes)
         test.writer.WriteEndElement();
         EXPECT_EQ(L"<e a=\"" + std::wstring(row.attribute) + L"\">" + row.text + L"</e>", test.Text());
     }
+}
+
+TEST(TextWriter, keeps_TabsOfAttributesThatEveryParserTakesForBlanks)
+{
+    const struct {
+        const wchar_t *value, *written, *read;
+    } cases[] = {
+        {L"\ta\t\tb\t", L"\ta\t\tb\t", L" a  b "},
+        // Line ends are written as references, without their carriage returns, and come back.
+        {L"a\r\nb\n", L"a&#xA;b&#xA;", L"a\nb\n"},
+        {L"a\rb", L"ab", L"ab"},
+    };
+    for (const auto& row : cases) {
+        WriterTest test(false);
+        test.Start(L"e");
+        test.Attribute(L"a", row.value);
+        test.writer.WriteEndElement();
+        EXPECT_EQ(L"<e a=\"" + std::wstring(row.written) + L"\"/>", test.Text());
+        CXmlDocument document;
+        document.LoadXml(test.Text().c_str());
+        EXPECT_EQ(L"e @a=" + std::wstring(row.read), TestSupport::TreeText(document.GetDocumentElement()));
+    }
+    // Another program's line ends are blanks too, one for each pair.
+    EXPECT_EQ(L"e @a=x y z '\tu'", TestSupport::ParsedTree("<e a='x\ny\r\nz'>\tu</e>"));
 }
 
 TEST(TextWriter, keeps_EmptyTextAsAnEmptyElementTag)
