@@ -5,8 +5,8 @@ set(base libzrxmllib16)
 set(binary_version "${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}")
 
 set(CPACK_PACKAGE_NAME ${PROJECT_NAME})
-set(CPACK_PACKAGE_VENDOR "The ZrXmlLib16 authors")
-set(CPACK_PACKAGE_CONTACT "The ZrXmlLib16 authors <maintainers@zrxmllib16.invalid>" CACHE STRING
+set(CPACK_PACKAGE_VENDOR "ZrXmlLib16 developers")
+set(CPACK_PACKAGE_CONTACT "ZrXmlLib16 developers <zrxmllib16@example.org>" CACHE STRING
   "Maintainer of the packages that cpack makes, as Name <address>")
 # Each component has its own first line.
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")

@@ -20,10 +20,10 @@ public:
     CZrException();
     /// A message without path and cause.
     explicit CZrException(const std::wstring& message);
-    /// @param inner the cause; a clone of it is kept.
+    /// A message and its cause, of which a clone is kept.
     CZrException(const std::wstring& message, const CZrException& inner);
-    /// @param path XPath of the node at fault; when it is not empty, "\nPath: " and the path are appended to the
-    /// message.
+    /// A message and the XPath of the node at fault: when it is not empty, "\nPath: " and the path are appended to the
+    /// message. A clone of the cause is kept.
     CZrException(const std::wstring& message, const std::wstring& path);
     CZrException(const std::wstring& message, const std::wstring& path, const CZrException& inner);
     CZrException(const CZrException& other);

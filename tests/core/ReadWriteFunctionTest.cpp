@@ -2,6 +2,7 @@
 #include "ZrXmlLib16/XmlFiles.h"
 #include "support/Failure.h"
 
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <unistd.h>
@@ -138,6 +139,8 @@ TEST(ReadWriteFunction, FilesAreNamedByPaths)
     WriteXmlFile(object, file, Plain());
     EXPECT_EQ(document.length(), std::filesystem::file_size(file));
     EXPECT_EQ(description, After([&](auto& read) { ReadXmlFile(read, file); }));
+    EXPECT_EQ(description, After([&](auto& read) { ReadXmlFile(read, file.native()); }));
+    EXPECT_EQ(description, After([&](auto& read) { ReadXmlFile(read, file.c_str()); }));
     CXmlDocument tree;
     ReadXmlFile(tree, file);
     EXPECT_EQ(L"order", tree.GetDocumentElement()->GetLocalName());
