@@ -89,6 +89,7 @@ TEST(Encoder, EachIllFormedRunBecomesOneReplacement)
         "\xC0\x80", "\xC1\xBF", "\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF", // overlong
         "\xED\xA0\x80", "\xED\xBF\xBF", "\xED\xA0\xBD\xED\xB8\x80", // surrogates
         "\xF4\x90\x80\x80", "\xF5\x80\x80\x80",                     // above the last code point
+        "\x81\x90\x80\x80", "\xF9\x80\x80\x80",                     // no lead octet, and all that could follow one
         "\xC3", "\xE2\x82", "\xF0\x9F", "\xF0\x9F\x98",             // cut off
     };
     for (const std::string run : illFormed) {
