@@ -21,6 +21,9 @@ TEST(Formatting, EveryConversionFits)
         FormatString(L"%lc%lc%lc", static_cast<wint_t>(L'x'), static_cast<wint_t>(0x20AC), static_cast<wint_t>(0xE9)));
     EXPECT_EQ(317U, FormatString(L"%f", -1e308).length());
     EXPECT_EQ(std::wstring(300, L' ') + L"1", FormatString(L"%301d", 1));
+    EXPECT_EQ(std::wstring(2999, L' ') + L"1", FormatString(L"%*d", 3000, 1));
+    EXPECT_EQ(L"1" + std::wstring(2999, L' '), FormatString(L"%*d", -3000, 1));
+    EXPECT_EQ(3002U, FormatString(L"%.*f", 3000, 0.5).length());
     EXPECT_EQ(L"0." + std::wstring(500, L'0') + L"e+00", FormatString(L"%.500e", 0.0));
     // No message is cut.
     const std::wstring text(100000, L'\u20ac');

@@ -191,6 +191,10 @@ TEST(RealConversion, CustomFormats)
 TEST(RealConversion, keeps_HexadecimalFloatsAndLeadingBlanks)
 {
     EXPECT_EQ(CConversions::r8FromString(L" \v-0x1.8P1", None), -3.0);
+    const std::wstring digits = L"0123456789abcdefABCDEF";
+    for (std::size_t i = 0; i < digits.size(); ++i)
+        EXPECT_EQ(
+            CConversions::r8FromString(L"0x" + digits.substr(i, 1), None), static_cast<double>(i < 16 ? i : i - 6));
     EXPECT_EQ(CConversions::r4FromString(L"0X.8", None), 0.5f);
 }
 

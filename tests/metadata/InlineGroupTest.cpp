@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "support/Failure.h"
 
+#include <gmock/gmock.h>
+
 using namespace ZrXmlLib16;
 using namespace TestSupport;
 
@@ -40,6 +42,14 @@ TEST(InlineGroup, AlternativeThatIsOnlyAttributes)
     EXPECT_EQ("order{first=first{x=1}}", Read(type, Order(L"x='1'", L"")));
     EXPECT_EQ("order{b=2}", Read(type, Order(L"", L"<b>2</b>")));
     EXPECT_EQ("order{}", Read(type, Order(L"", L"")));
+}
+
+TEST(InlineGroup, CollectionThatTakesNothingLeavesTheChoiceToOthers)
+{
+    const TestClass group = Class(L"group").Group().Prim(L"a");
+    const TestClass type = Class(L"order").Choice().Cls(L"group", group).Col().Prim(L"b");
+    EXPECT_EQ("order{group=[group{a=1},group{a=2}]}", Read(type, Order(L"", L"<a>1</a><a>2</a>")));
+    EXPECT_THAT(Read(type, Order(L"", L"<b>3</b>")), testing::EndsWith("b=3}"));
 }
 
 TEST(InlineGroup, NilOfTheParentIsNotTheGroups)
