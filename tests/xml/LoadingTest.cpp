@@ -76,7 +76,8 @@ TEST(Loading, AcceptsEveryEncodingInAStream)
     EXPECT_EQ(L"a '\u20AC'", StreamTree(std::string("<\0a\0>\0\xAC\x20<\0/\0a\0>\0", 16)));
 }
 
-// The parser gets the text in parts of four megabytes and more: characters, line ends and tokens lie across their edges.
+// The parser gets the text in parts of four megabytes and more: characters, line ends and tokens lie across their
+// edges.
 TEST(Loading, JoinsThePartsOfALongText)
 {
     std::string euros;
