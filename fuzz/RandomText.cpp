@@ -59,7 +59,9 @@ std::wstring RandomReal(ItemType type, InputReader& input, const Restrictions& r
         value.SetR4(narrow);
     else
         value.SetR8(wide);
-    std::wstring text = value.ToString(nullptr);
+    // The largest numbers, rounded to the digits that are written, read back as infinite.
+    value.FromString(value.ToString(nullptr), type, CWhitespaceUtils::Rule_None);
+    const std::wstring text = value.ToString(nullptr);
     return restrictions.unwritableInJson && text.find_first_of(L"NI") != std::wstring::npos ? L"0" : text;
 }
 
