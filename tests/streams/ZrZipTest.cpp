@@ -110,6 +110,17 @@ TEST(ZrZip, WhatIsNotCompressedPassesThrough)
     EXPECT_EQ("", Decompressed(std::string("\x78\x9C\x03\x00\x00\x00\x00\x01", 8))) << "nothing, compressed";
 }
 
+TEST(ZrZip, TheMaximumItselfIsAccepted)
+{
+    const std::string packed = Compressed(SampleText(5000), Compression_GZip);
+    const auto* const octets = reinterpret_cast<const unsigned char*>(packed.data());
+    CBinaryData plain;
+    EXPECT_TRUE(CZrZip::DecompressData(octets, packed.size(), 5000, plain));
+    EXPECT_EQ(5000U, plain.GetLength());
+    CBinaryData refused;
+    EXPECT_THROW(CZrZip::DecompressData(octets, packed.size(), 4999, refused), CZrException);
+}
+
 TEST(ZrZip, ValuesAreCompressedOrStayAsTheyWere)
 {
     const std::string text = SampleText(4000);
