@@ -10,6 +10,21 @@ namespace ZrXmlLib16 {
 class CXmlGeneratedClass;
 class INillable;
 
+/// Where the INillable lies in the objects of one type.
+class CNillablePlace {
+public:
+    /// In no object.
+    CNillablePlace() = default;
+    explicit CNillablePlace(CXmlGeneratedClass& object);
+
+    /// Null when the object is none.
+    INillable* In(CXmlGeneratedClass& object) const;
+
+private:
+    bool m_exists = false;
+    std::ptrdiff_t m_offset = 0;
+};
+
 /// Finds the INillable of an object without asking the same type twice: its place is the same in all objects of a type.
 /// Small and forgetful. Belongs to one walk at a time.
 class CNillableMemory {
@@ -21,8 +36,7 @@ public:
 private:
     struct Entry {
         const std::type_info* type;
-        std::ptrdiff_t offset;
-        bool isNillable;
+        CNillablePlace place;
     };
     static constexpr unsigned INDEX_BITS = 6;
 

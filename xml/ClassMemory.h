@@ -2,6 +2,7 @@
 #ifndef XML_CLASSMEMORY_H
 #define XML_CLASSMEMORY_H
 
+#include "core/NillableMemory.h"
 #include "xml/Arena.h"
 
 #include <cstddef>
@@ -22,8 +23,7 @@ public:
         Entry* next;
         const wchar_t* targetNamespace = nullptr; // null as long as nobody asked
         bool knowsNillable = false;
-        bool isNillable = false;
-        std::ptrdiff_t nillableOffset = 0; // of the INillable in the object
+        CNillablePlace nillable = {};
     };
 
     explicit ClassMemory(Arena& arena) noexcept

@@ -51,15 +51,12 @@ INillable* NodeAccess::FindNillable(const CXmlElement& element, CXmlGeneratedCla
     if (!storage) {
         return dynamic_cast<INillable*>(&object);
     }
-    char* const start = reinterpret_cast<char*>(&object);
     ClassMemory::Entry& known = storage->GetClassMemory().Find(typeid(object), classInfo);
     if (!known.knowsNillable) {
-        INillable* const nillable = dynamic_cast<INillable*>(&object);
+        known.nillable = CNillablePlace(object);
         known.knowsNillable = true;
-        known.isNillable = nillable != nullptr;
-        known.nillableOffset = nillable ? reinterpret_cast<char*>(nillable) - start : 0;
     }
-    return known.isNillable ? reinterpret_cast<INillable*>(start + known.nillableOffset) : nullptr;
+    return known.nillable.In(object);
 }
 
 void NodeAccess::Parse(const NodeText& text, DocumentStorage* storage, ItemType type,
