@@ -12,8 +12,8 @@
 #include "fastinfoset/ReaderVocabulary.h"
 #include "fastinfoset/SkippedItems.h"
 #include "streams/Utf8Decoding.h"
-#include "xml/DocumentStorage.h"
 #include "xml/NodeAccess.h"
+#include "xml/TreeBuilder.h"
 
 #include <cstring>
 #include <utility>
@@ -115,6 +115,7 @@ private:
     void CountIndexedText(std::size_t length);
 
     CXmlDocument& m_document;
+    TreeBuilder m_tree;
     OctetReader m_input;
     ReaderVocabulary m_vocabulary;
     const unsigned long m_indexedTextLimit;
@@ -164,8 +165,9 @@ bool CFastInfosetReader::Parse()
 
 CFastInfosetReader::Decoder::Decoder(const CFastInfosetContext& context, CXmlDocument& document, OctetString input)
     : m_document(document)
+    , m_tree(document)
     , m_input(input.octets, input.length)
-    , m_vocabulary(context, document.GetStorage().GetNames())
+    , m_vocabulary(context, m_tree.GetStorage().GetNames())
     , m_indexedTextLimit(CFormatSettings::MaximumExpansion(document.GetSerializationContext(), input.length))
 {
 }
@@ -202,7 +204,7 @@ void CFastInfosetReader::Decoder::ReadUntilRoot()
 // What follows the root is not looked at.
 void CFastInfosetReader::Decoder::ReadContent()
 {
-    while (!m_document.m_elementStack.empty()) {
+    while (m_tree.HasOpenElement()) {
         const unsigned char octet = m_input.Fetch();
         if (octet < NOT_AN_ELEMENT) {
             StartElement(octet);
@@ -230,18 +232,17 @@ void CFastInfosetReader::Decoder::StartElement(unsigned char first)
         nameOctet = m_input.Fetch();
     }
     const XmlName& name = ReadElementName(nameOctet);
-    CXmlElement* const element =
-        m_document.m_elementStack.empty() ? m_document.OpenDocElement(name) : m_document.OpenChildElement(name);
+    CXmlElement& element = m_tree.HasOpenElement() ? m_tree.OpenChild(name) : m_tree.OpenRoot(name);
     if (first & HAS_ATTRIBUTES) {
-        ReadAttributes(*element);
+        ReadAttributes(element);
     }
 }
 
 void CFastInfosetReader::Decoder::EndElements(unsigned char terminator)
 {
-    m_document.EndElement();
-    if (terminator == DOUBLE_TERMINATOR && !m_document.m_elementStack.empty()) {
-        m_document.EndElement();
+    m_tree.EndElement();
+    if (terminator == DOUBLE_TERMINATOR && m_tree.HasOpenElement()) {
+        m_tree.EndElement();
     }
 }
 
@@ -265,11 +266,11 @@ void CFastInfosetReader::Decoder::ReadAttributes(CXmlElement& element)
     unsigned char octet = m_input.Fetch();
     for (; octet < NOT_AN_ATTRIBUTE; octet = m_input.Fetch()) {
         const XmlName& name = ReadAttributeName(octet);
-        m_document.CountName(name);
+        m_tree.CountName(name);
         ReadAttributeValue(element, name);
     }
     if (octet == DOUBLE_TERMINATOR) {
-        m_document.EndElement();
+        m_tree.EndElement();
     } else if (octet != TERMINATOR) {
         ThrowInvalidElement();
     }
@@ -281,15 +282,15 @@ void CFastInfosetReader::Decoder::ReadAttributeValue(CXmlElement& element, const
     if (first & INDEX_ON_BIT_1) {
         const std::uint64_t index = m_input.ReadIntegerOrZeroOnBit2(first);
         if (index == 0) {
-            element.AddNamedAttribute(name, std::wstring());
+            TreeBuilder::AddWideAttribute(element, name, std::wstring());
             return;
         }
         const ValueTable::Value value = RequireValue(
             m_vocabulary.GetAttributeValues(), index, FastInfosetReaderMessages::INVALID_INTEGER_OR_ZERO_ON_BIT_2);
         if (value.wide) {
-            element.AddNamedAttribute(name, *value.wide);
+            TreeBuilder::AddWideAttribute(element, name, *value.wide);
         } else {
-            element.AddSharedAttribute(name, value.units, value.length);
+            m_tree.AddSharedAttribute(element, name, value.units, value.length);
         }
         return;
     }
@@ -297,7 +298,7 @@ void CFastInfosetReader::Decoder::ReadAttributeValue(CXmlElement& element, const
     const bool isAdded = first & ADD_ON_BIT_2;
     if (literal.encoding == EncodedString::Utf8) {
         const std::size_t count = DecodeUnits(literal.content);
-        element.AddParsedAttribute(name, m_units.data(), count);
+        TreeBuilder::AddParsedAttribute(element, name, m_units.data(), count);
         if (isAdded) {
             AddValue(m_vocabulary.GetAttributeValues(), NodeAccess::FindLastValueUnits(element), count);
         }
@@ -305,7 +306,7 @@ void CFastInfosetReader::Decoder::ReadAttributeValue(CXmlElement& element, const
     }
     m_text.clear();
     AppendEncodedString(m_text, literal, m_vocabulary.GetAlphabets());
-    element.AddNamedAttribute(name, m_text);
+    TreeBuilder::AddWideAttribute(element, name, m_text);
     if (isAdded) {
         m_vocabulary.GetAttributeValues().Add(m_text);
     }
@@ -313,7 +314,7 @@ void CFastInfosetReader::Decoder::ReadAttributeValue(CXmlElement& element, const
 
 void CFastInfosetReader::Decoder::ReadChunk(unsigned char first)
 {
-    CXmlElement& element = *m_document.m_elementStack.back();
+    CXmlElement& element = m_tree.RequireOpenElement();
     if (first & INDEX_ON_BIT_3) {
         ReadIndexedChunk(element, m_input.ReadIntegerOnBit4(first));
         return;
@@ -364,7 +365,7 @@ ValueTable::Value CFastInfosetReader::Decoder::RequireValue(
 void CFastInfosetReader::Decoder::AddValue(ValueTable& table, const Utf16Unit* nodeUnits, std::size_t count)
 {
     if (!nodeUnits && !table.IsFull()) {
-        Arena& arena = m_document.GetStorage().GetArena();
+        Arena& arena = m_tree.GetStorage().GetArena();
         auto* const copy = static_cast<Utf16Unit*>(arena.Allocate(count * sizeof(Utf16Unit), alignof(Utf16Unit)));
         std::copy_n(m_units.data(), count, copy);
         nodeUnits = copy;

@@ -26,7 +26,7 @@ public:
     /// @param alignment a power of two, at most that of operator new.
     void* Allocate(std::size_t size, std::size_t alignment)
     {
-        const std::size_t padding = (~reinterpret_cast<std::uintptr_t>(m_free) + 1) & (alignment - 1);
+        const std::size_t padding = PaddingOf(alignment);
         if (size + padding > static_cast<std::size_t>(m_end - m_free)) {
             return AllocateFromNewChunk(size);
         }
@@ -46,7 +46,23 @@ public:
         return true;
     }
 
+    /// Room for one more piece, of which it is not known yet how much will be needed: see Take. Null when the newest
+    /// chunk has less.
+    template <class T> T* FindRoom(std::size_t count) const noexcept
+    {
+        unsigned char* const start = m_free + PaddingOf(alignof(T));
+        return start <= m_end && count <= static_cast<std::size_t>(m_end - start) / sizeof(T)
+            ? reinterpret_cast<T*>(start)
+            : nullptr;
+    }
+    /// Makes a piece of the room that was found last.
+    void Take(const void* pieceEnd) noexcept { m_free = m_free + (static_cast<const unsigned char*>(pieceEnd) - m_free); }
+
 private:
+    std::size_t PaddingOf(std::size_t alignment) const noexcept
+    {
+        return (~reinterpret_cast<std::uintptr_t>(m_free) + 1) & (alignment - 1);
+    }
     [[gnu::noinline]] void* AllocateFromNewChunk(std::size_t size);
 
     unsigned char* m_free = nullptr; // the untouched rest of the newest chunk

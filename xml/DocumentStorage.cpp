@@ -12,29 +12,12 @@ namespace ZrXmlLib16 {
 
 namespace {
 
-constexpr std::size_t HEADER_SIZE = sizeof(NodePool*);
 // A heap node keeps the alignment that operator new promises to any type.
 constexpr std::size_t HEAP_OFFSET = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
 
 // Typical documents need a little less per byte of their text.
 constexpr std::size_t ARENA_PER_INPUT = 5;
 constexpr std::size_t LARGEST_ESTIMATED_INPUT = std::size_t(1) << 30;
-
-static_assert(alignof(CXmlElement) <= HEADER_SIZE && sizeof(CXmlElement) % HEADER_SIZE == 0);
-static_assert(alignof(CXmlAttribute) <= HEADER_SIZE && sizeof(CXmlAttribute) % HEADER_SIZE == 0);
-static_assert(HEAP_OFFSET >= HEADER_SIZE);
-
-void StorePool(unsigned char* node, NodePool* pool) noexcept
-{
-    std::memcpy(node - HEADER_SIZE, &pool, HEADER_SIZE);
-}
-
-NodePool* LoadPool(const unsigned char* node) noexcept
-{
-    NodePool* pool = nullptr;
-    std::memcpy(&pool, node - HEADER_SIZE, HEADER_SIZE);
-    return pool;
-}
 
 } // namespace
 
@@ -43,25 +26,22 @@ NodePool::NodePool(DocumentStorage& owner, std::size_t nodeSize) noexcept
     , m_stride(HEADER_SIZE + nodeSize)
     , m_freeNodes(nullptr)
 {
+    static_assert(alignof(CXmlElement) <= HEADER_SIZE && sizeof(CXmlElement) % HEADER_SIZE == 0);
+    static_assert(alignof(CXmlAttribute) <= HEADER_SIZE && sizeof(CXmlAttribute) % HEADER_SIZE == 0);
 }
 
-void* NodePool::Allocate()
+// The pool is still noted in front of the node.
+void* NodePool::AllocateAgain() noexcept
 {
-    void* node = m_freeNodes;
-    if (node) {
-        std::memcpy(&m_freeNodes, node, sizeof(m_freeNodes));
-    } else {
-        unsigned char* const fresh =
-            static_cast<unsigned char*>(m_owner.m_arena.Allocate(m_stride, HEADER_SIZE)) + HEADER_SIZE;
-        StorePool(fresh, this);
-        node = fresh;
-    }
+    void* const node = m_freeNodes;
+    std::memcpy(&m_freeNodes, node, sizeof(m_freeNodes));
     ++m_owner.m_liveNodes;
     return node;
 }
 
 void* NodePool::AllocateFromHeap(std::size_t nodeSize)
 {
+    static_assert(HEAP_OFFSET >= HEADER_SIZE);
     unsigned char* const node = static_cast<unsigned char*>(::operator new(HEAP_OFFSET + nodeSize)) + HEAP_OFFSET;
     StorePool(node, nullptr);
     return node;

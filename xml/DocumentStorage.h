@@ -8,6 +8,7 @@
 #include "xml/NameTable.h"
 
 #include <cstddef>
+#include <cstring>
 
 namespace ZrXmlLib16 {
 
@@ -24,11 +25,26 @@ public:
     NodePool& operator=(const NodePool&) = delete;
 
     void* Allocate();
+    /// The same from the heap.
     static void* AllocateFromHeap(std::size_t nodeSize);
     /// Takes back what either of the two gave out; null is allowed.
     static void Free(void* node) noexcept;
 
 private:
+    static constexpr std::size_t HEADER_SIZE = sizeof(NodePool*);
+
+    static void StorePool(void* node, NodePool* pool) noexcept
+    {
+        std::memcpy(static_cast<unsigned char*>(node) - HEADER_SIZE, &pool, HEADER_SIZE);
+    }
+    static NodePool* LoadPool(const void* node) noexcept
+    {
+        NodePool* pool = nullptr;
+        std::memcpy(&pool, static_cast<const unsigned char*>(node) - HEADER_SIZE, HEADER_SIZE);
+        return pool;
+    }
+    void* AllocateAgain() noexcept;
+
     DocumentStorage& m_owner;
     const std::size_t m_stride;
     void* m_freeNodes; // linked through their first word
@@ -91,6 +107,17 @@ private:
     bool m_hasWholeTree = true;
     bool m_abandoned = false;
 };
+
+inline void* NodePool::Allocate()
+{
+    if (m_freeNodes) {
+        return AllocateAgain();
+    }
+    void* const node = static_cast<unsigned char*>(m_owner.m_arena.Allocate(m_stride, HEADER_SIZE)) + HEADER_SIZE;
+    StorePool(node, this);
+    ++m_owner.m_liveNodes;
+    return node;
+}
 
 } // namespace ZrXmlLib16
 

@@ -11,7 +11,6 @@
 #include "core/ErrorPosition.h"
 #include "core/FormatSettings.h"
 #include "xml/ConvertedTextScope.h"
-#include "xml/DocumentStorage.h"
 #include "xml/NodeAccess.h"
 #include "xml/XmlMessages.h"
 
@@ -71,6 +70,7 @@ void CExpatReader::ParserDeleter::operator()(XML_ParserStruct* parser) const noe
 CExpatReader::CExpatReader(CXmlDocument& document)
     : m_document(document)
     , m_maximumExpansion(CFormatSettings::MaximumExpansion(document.GetSerializationContext(), document.GetInputSize()))
+    , m_tree(document)
     , m_memory(std::min(m_maximumExpansion, LARGEST_EXPANSION) * sizeof(XML_Char) + MEMORY_BEYOND_EXPANSION)
 {
 }
@@ -88,7 +88,6 @@ void CExpatReader::CreateParser()
     if (!m_parser) {
         throw std::bad_alloc();
     }
-    m_storage = &m_document.GetStorage();
     XML_SetUserData(m_parser.get(), this);
     XML_SetElementHandler(m_parser.get(), FnStartElement, FnEndElement);
     XML_SetNamespaceDeclHandler(m_parser.get(), FnStartNamespace, FnEndNamespace);
@@ -177,28 +176,27 @@ void CExpatReader::FnStartElement(void* reader, const Utf16Unit* name, const Utf
 
 void CExpatReader::StartElement(const Utf16Unit* name, const Utf16Unit** attributes)
 {
-    NameTable& names = m_storage->GetNames();
+    NameTable& names = m_tree.GetStorage().GetNames();
     const XmlName& elementName = names.Intern(name);
-    CXmlElement* const element = m_document.GetDocumentElement() ? m_document.OpenChildElement(elementName)
-                                                                 : m_document.OpenDocElement(elementName);
-    element->m_position = m_lines.Locate(CurrentOffset(m_parser.get()));
+    CXmlElement& element = m_tree.HasOpenElement() ? m_tree.OpenChild(elementName) : m_tree.OpenRoot(elementName);
+    TreeBuilder::SetPosition(element, m_lines.Locate(CurrentOffset(m_parser.get())));
     for (; *attributes; attributes += 2) {
         const Utf16Unit* const value = attributes[1];
         const XmlName& attributeName = names.Intern(attributes[0]);
-        m_document.CountName(attributeName);
-        element->AddParsedAttribute(attributeName, value, Utf16Length(value));
+        m_tree.CountName(attributeName);
+        TreeBuilder::AddParsedAttribute(element, attributeName, value, Utf16Length(value));
     }
 }
 
 void CExpatReader::FnEndElement(void* reader, const Utf16Unit*) noexcept
 {
-    Guard(reader, [](CExpatReader& self) { self.m_document.EndElement(); });
+    Guard(reader, [](CExpatReader& self) { self.m_tree.EndElement(); });
 }
 
 void CExpatReader::FnText(void* reader, const Utf16Unit* text, int length) noexcept
 {
     Guard(reader, [=](CExpatReader& self) {
-        NodeAccess::AppendUnits(self.m_document.RequireOpenElement(), text, static_cast<std::size_t>(length));
+        NodeAccess::AppendUnits(self.m_tree.RequireOpenElement(), text, static_cast<std::size_t>(length));
     });
 }
 
@@ -216,7 +214,7 @@ void CExpatReader::FnEndNamespace(void*, const Utf16Unit*) noexcept
 
 void CExpatReader::AddDelimiter(const wchar_t* text, std::size_t length)
 {
-    m_document.RequireOpenElement().AppendText(text, length);
+    m_tree.RequireOpenElement().AppendText(text, length);
 }
 
 // kept: required behaviour. A section keeps its delimiters in the text unless they are stripped.

@@ -4,6 +4,7 @@
 
 #include "xml/LineTracker.h"
 #include "xml/ParserMemory.h"
+#include "xml/TreeBuilder.h"
 #include "xml/Utf16Text.h"
 
 #include <exception>
@@ -14,7 +15,6 @@ struct XML_ParserStruct;
 namespace ZrXmlLib16 {
 
 class CXmlDocument;
-class DocumentStorage;
 
 /// Reads XML text into a document: turns the events of the expat parser into nodes. Serves one parse.
 ///
@@ -53,7 +53,7 @@ private:
 
     CXmlDocument& m_document;
     const unsigned long m_maximumExpansion;
-    DocumentStorage* m_storage = nullptr; // of the document
+    TreeBuilder m_tree;
     ParserMemory m_memory;
     std::unique_ptr<XML_ParserStruct, ParserDeleter> m_parser;
     LineTracker m_lines;

@@ -16,7 +16,7 @@ CXmlAttribute::CXmlAttribute(
     m_value.AppendWide(nullptr, value.data(), value.size());
 }
 
-CXmlAttribute::CXmlAttribute(CXmlElement* owner, const XmlName& name)
+CXmlAttribute::CXmlAttribute(CXmlElement* owner, const XmlName& name) noexcept
     : m_owner(owner)
     , m_name(&name)
     , m_next(this)

@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ZrXmlLib16/XmlDocument.h"
 
-#include "ZrXmlLib16/Formatting.h"
 #include "ZrXmlLib16/SerializationContext.h"
 #include "ZrXmlLib16/XmlElement.h"
-#include "ZrXmlLib16/ZrException.h"
-#include "ZrXmlLib16/ZrInvalidStateException.h"
-#include "core/FormatSettings.h"
 #include "xml/DocumentStorage.h"
-#include "xml/XmlMessages.h"
+#include "xml/TreeBuilder.h"
 
 #include <algorithm>
 #include <cwchar>
@@ -110,65 +106,20 @@ CXmlElement* CXmlDocument::GetDocumentElement() const
 
 CXmlElement* CXmlDocument::AddDocElement(const std::wstring& namespaceUri, const std::wstring& name)
 {
-    return OpenDocElement(GetStorage().GetNames().Intern(namespaceUri, name));
+    return &TreeBuilder(*this).OpenRoot(GetStorage().GetNames().Intern(namespaceUri, name));
 }
 
 CXmlElement* CXmlDocument::AddChildElement(const std::wstring& namespaceUri, const std::wstring& name)
 {
-    return OpenChildElement(GetStorage().GetNames().Intern(namespaceUri, name));
+    return &TreeBuilder(*this).OpenChild(GetStorage().GetNames().Intern(namespaceUri, name));
 }
 
-CXmlElement* CXmlDocument::OpenDocElement(const XmlName& name)
-{
-    m_maximumElements = m_context->GetInputLimits().GetMaxElements();
-    m_elementStack.clear();
-    m_documentElement = NewElement(nullptr, name);
-    m_elementStack.push_back(m_documentElement.get());
-    return m_documentElement.get();
-}
-
-CXmlElement* CXmlDocument::OpenChildElement(const XmlName& name)
-{
-    CXmlElement& parent = RequireOpenElement();
-    CXmlElement* const child = parent.AppendChild(NewElement(&parent, name));
-    m_elementStack.push_back(child);
-    return child;
-}
-
-std::unique_ptr<CXmlElement> CXmlDocument::NewElement(CXmlElement* parent, const XmlName& name)
-{
-    if (m_elementCount >= m_maximumElements) {
-        throw CZrException(FormatString(Message::TOO_MANY_ELEMENTS, m_maximumElements));
-    }
-    ++m_elementCount;
-    CountName(name);
-    return std::unique_ptr<CXmlElement>(new (name.storage->GetElementPool()) CXmlElement(parent, name));
-}
-
-// A prefix or an index repeats a namespace or name of any length, which every object that takes it copies.
-void CXmlDocument::CountName(const XmlName& name)
-{
-    if (!name.isLong || !m_input) { // without input the names come from the program
-        return;
-    }
-    m_nameCharacters += name.namespaceUri.size() + name.localName.size();
-    const unsigned long maximum = CFormatSettings::MaximumExpansion(*m_context, m_inputSize);
-    if (m_nameCharacters > maximum) {
-        throw CZrException(FormatString(Message::NAMES_EXPAND_TOO_FAR, maximum));
-    }
-}
-
-void CXmlDocument::ThrowNoElementOpen()
-{
-    throw CZrInvalidStateException(Message::NO_ELEMENT_OPEN_IN_DOCUMENT);
-}
-
-CXmlElement& CXmlDocument::RequireOpenElement(CXmlElement* element) const
+CXmlElement& CXmlDocument::RequireOpenElement(CXmlElement* element)
 {
     if (!element) {
-        ThrowNoElementOpen();
+        TreeBuilder::ThrowNoElementOpen();
     }
-    RequireOpenElement();
+    TreeBuilder(*this).RequireOpenElement();
     return *element;
 }
 
@@ -196,15 +147,7 @@ void CXmlDocument::AppendTextExcludingCR(CXmlElement* element, const std::wstrin
 
 void CXmlDocument::EndElement()
 {
-    CXmlElement* const element = &RequireOpenElement();
-    m_elementStack.pop_back();
-    if (!m_elementEnd || !m_elementEnd(element) || m_elementStack.empty()) {
-        return;
-    }
-    CXmlElement* const parent = m_elementStack.back();
-    if (parent->GetLastElement() == element) {
-        delete parent->RemoveLastChildElement();
-    }
+    TreeBuilder(*this).EndElement();
 }
 
 void CXmlDocument::AddNamespaceDeclaration(const std::wstring& prefix, const std::wstring& uri)

@@ -21,7 +21,7 @@ CXmlElement::CXmlElement(CXmlDocument* document, CXmlElement* parent)
 {
 }
 
-CXmlElement::CXmlElement(CXmlElement* parent, const XmlName& name)
+CXmlElement::CXmlElement(CXmlElement* parent, const XmlName& name) noexcept
     : m_position()
     , m_parent(parent)
     , m_nextSibling(nullptr)
@@ -74,23 +74,10 @@ CXmlElement* CXmlElement::CreateNewChildElement()
 {
     DocumentStorage* const storage = GetStorage();
     if (!storage) {
-        return AppendChild(std::unique_ptr<CXmlElement>(new CXmlElement(m_document, this)));
+        return AppendChild(new CXmlElement(m_document, this));
     }
     const XmlName& noName = storage->GetNames().Intern(std::wstring(), std::wstring());
-    return AppendChild(std::unique_ptr<CXmlElement>(new (storage->GetElementPool()) CXmlElement(this, noName)));
-}
-
-CXmlElement* CXmlElement::AppendChild(std::unique_ptr<CXmlElement> child)
-{
-    CXmlElement* const added = child.release();
-    if (m_firstChild) {
-        added->m_previousSibling = std::exchange(m_firstChild->m_previousSibling, added);
-        added->m_previousSibling->m_nextSibling = added;
-    } else {
-        m_firstChild = added;
-        added->m_previousSibling = added;
-    }
-    return added;
+    return AppendChild(new (storage->GetElementPool()) CXmlElement(this, noName));
 }
 
 CXmlElement* CXmlElement::RemoveLastChildElement()
@@ -149,23 +136,12 @@ void CXmlElement::AddParsedAttribute(const XmlName& name, const Utf16Unit* value
     AppendAttribute(std::move(attribute));
 }
 
-void CXmlElement::AddSharedAttribute(const XmlName& name, const Utf16Unit* value, std::size_t length)
-{
-    std::unique_ptr<CXmlAttribute> attribute(new (name.storage->GetAttributePool()) CXmlAttribute(this, name));
-    attribute->m_value.Share(*name.storage, value, length);
-    AppendAttribute(std::move(attribute));
-}
-
 void CXmlElement::AppendAttribute(std::unique_ptr<CXmlAttribute> attribute)
 {
     if (m_text.ListsAttributes()) {
         m_text.GetForms(GetStorage()).attributes.push_back(attribute.get());
     }
-    CXmlAttribute* const added = attribute.release();
-    if (m_lastAttribute) {
-        added->m_next = std::exchange(m_lastAttribute->m_next, added);
-    }
-    m_lastAttribute = added;
+    LinkAttribute(attribute.release());
 }
 
 void CXmlElement::AppendText(const wchar_t* text, unsigned long length)

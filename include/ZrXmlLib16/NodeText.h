@@ -57,6 +57,16 @@ public:
     /// Takes units that lie in the memory of the document as long as that lives, and of which others know too. The text
     /// is empty before.
     void Share(DocumentStorage& storage, const unsigned short* units, std::size_t length);
+    /// The same where the storage keeps texts, for units without carriage returns, fewer than 2^32 - 1. The text has not
+    /// been touched before.
+    void Adopt(const unsigned short* units, std::size_t length) noexcept
+    {
+        m_units = const_cast<unsigned short*>(units);
+        m_length = static_cast<std::uint32_t>(length);
+        m_capacity = m_length;
+    }
+    /// Whether nothing has been appended so far.
+    bool IsUntouched() const noexcept { return m_capacity == 0; }
     /// The units of the text, null when there is only the wide form.
     const unsigned short* GetUnits() const noexcept { return IsWide() ? nullptr : m_units; }
     /// Number of these units.

@@ -54,8 +54,10 @@ public:
 private:
     friend class CXmlElement;
     friend class NodeAccess;
+    friend class TreeBuilder;
 
-    CXmlAttribute(CXmlElement* owner, const XmlName& name);
+    /// An attribute in the memory of a document.
+    CXmlAttribute(CXmlElement* owner, const XmlName& name) noexcept;
     DocumentStorage* GetStorage() const;
     static void* operator new(std::size_t size, NodePool& pool);
     static void operator delete(void* node, NodePool& pool);

@@ -16,7 +16,6 @@ namespace ZrXmlLib16 {
 class CSerializationContext;
 class CXmlElement;
 class DocumentStorage;
-struct XmlName;
 
 /// A document read into a small tree: element names and namespaces, attributes and the text of each element.
 ///
@@ -108,8 +107,7 @@ public:
     const CSerializationContext& GetSerializationContext() const;
 
 private:
-    friend class CExpatReader;
-    friend class CFastInfosetReader;
+    friend class TreeBuilder;
 
     struct StorageDeleter {
         void operator()(DocumentStorage* storage) const noexcept;
@@ -126,19 +124,7 @@ private:
     void DestroyTree() noexcept;
     void DestroyInput() noexcept;
     DocumentStorage& GetStorage();
-    CXmlElement* OpenDocElement(const XmlName& name);
-    CXmlElement* OpenChildElement(const XmlName& name);
-    std::unique_ptr<CXmlElement> NewElement(CXmlElement* parent, const XmlName& name);
-    void CountName(const XmlName& name);
-    CXmlElement& RequireOpenElement() const
-    {
-        if (m_elementStack.empty()) {
-            ThrowNoElementOpen();
-        }
-        return *m_elementStack.back();
-    }
-    [[noreturn]] static void ThrowNoElementOpen();
-    CXmlElement& RequireOpenElement(CXmlElement* element) const;
+    CXmlElement& RequireOpenElement(CXmlElement* element);
 
     std::unique_ptr<CXmlElement> m_documentElement;
     std::vector<CXmlElement*> m_elementStack;

@@ -94,22 +94,40 @@ public:
 
 private:
     friend class CXmlDocument;
-    friend class CExpatReader;
-    friend class CFastInfosetReader;
     friend class NodeAccess;
+    friend class TreeBuilder;
 
     /// An element in the memory of a document.
-    CXmlElement(CXmlElement* parent, const XmlName& name);
+    CXmlElement(CXmlElement* parent, const XmlName& name) noexcept;
     static void* operator new(std::size_t size, NodePool& pool);
     static void operator delete(void* node, NodePool& pool);
 
-    CXmlElement* AppendChild(std::unique_ptr<CXmlElement> child);
+    CXmlElement* AppendChild(CXmlElement* child) noexcept
+    {
+        if (m_firstChild) {
+            CXmlElement* const last = m_firstChild->m_previousSibling;
+            child->m_previousSibling = last;
+            last->m_nextSibling = child;
+            m_firstChild->m_previousSibling = child;
+        } else {
+            child->m_previousSibling = child;
+            m_firstChild = child;
+        }
+        return child;
+    }
     CXmlElement* GetLastElement() const { return m_firstChild ? m_firstChild->m_previousSibling : nullptr; }
     CXmlAttribute* FindAttribute(const std::wstring& localName, const std::wstring& namespaceUri) const;
     void AppendAttribute(std::unique_ptr<CXmlAttribute> attribute);
+    void LinkAttribute(CXmlAttribute* attribute) noexcept
+    {
+        if (m_lastAttribute) {
+            attribute->m_next = m_lastAttribute->m_next;
+            m_lastAttribute->m_next = attribute;
+        }
+        m_lastAttribute = attribute;
+    }
     void DeleteAttributes() noexcept;
     void AddParsedAttribute(const XmlName& name, const unsigned short* value, std::size_t length);
-    void AddSharedAttribute(const XmlName& name, const unsigned short* value, std::size_t length);
     void AddNamedAttribute(const XmlName& name, const std::wstring& value);
     DocumentStorage* GetStorage() const;
     void SetName(const std::wstring& namespaceUri, const std::wstring& localName);
