@@ -11,10 +11,12 @@
 #include "fastinfoset/OctetReader.h"
 #include "fastinfoset/ReaderVocabulary.h"
 #include "fastinfoset/SkippedItems.h"
+#include "streams/PlainText.h"
 #include "streams/Utf8Decoding.h"
 #include "xml/NodeAccess.h"
 #include "xml/TreeBuilder.h"
 
+#include <algorithm>
 #include <cstring>
 #include <utility>
 #include <vector>
@@ -33,8 +35,15 @@ constexpr unsigned char HAS_NAMESPACE = 0x01;
 // Where a name or value may be an index or literal, and where a literal is to be entered into its table.
 constexpr unsigned char INDEX_ON_BIT_1 = 0x80;
 constexpr unsigned char INDEX_ON_BIT_3 = 0x20;
+constexpr unsigned char LONG_ON_BIT_3 = 0x20; // an index of more than one octet, or no index
 constexpr unsigned char ADD_ON_BIT_2 = 0x40;
 constexpr unsigned char ADD_ON_BIT_4 = 0x10;
+// No bit of these is set for UTF-8.
+constexpr unsigned char ENCODING_ON_BIT_3 = 0x30;
+constexpr unsigned char ENCODING_ON_BIT_5 = 0x0C;
+
+/// Longer texts are rare, and what nodes share must not reach the limit of NodeText.
+constexpr std::size_t LONGEST_SHARED_TEXT = std::size_t(1) << 30;
 
 bool HasNamespaceAttributes(unsigned char octet)
 {
@@ -97,12 +106,22 @@ private:
     void ReadNamespaceAttributes();
     void ReadAttributes(CXmlElement& element);
     void ReadAttributeValue(CXmlElement& element, const XmlName& name);
+    void ReadIndexedValue(CXmlElement& element, const XmlName& name, std::uint64_t index);
+    [[gnu::noinline]] void AddLiteralValue(
+        CXmlElement& element, const XmlName& name, OctetString content, bool isAdded);
+    [[gnu::noinline]] void AddEncodedValue(
+        CXmlElement& element, const XmlName& name, const EncodedString& literal, bool isAdded);
     void ReadChunk(unsigned char first);
     void ReadIndexedChunk(CXmlElement& element, std::uint64_t index);
+    [[gnu::noinline]] void AppendLiteral(CXmlElement& element, OctetString content, bool isAdded);
+    [[gnu::noinline]] void AppendEncoded(CXmlElement& element, const EncodedString& literal, bool isAdded);
+    const Utf16Unit* DecodePlainText(OctetString content);
     std::size_t DecodeUnits(OctetString content);
 
     const XmlName& ReadElementName(unsigned char first);
+    [[gnu::noinline]] const XmlName& ReadLongElementName(unsigned char first);
     const XmlName& ReadAttributeName(unsigned char first);
+    [[gnu::noinline]] const XmlName& ReadLiteralAttributeName(unsigned char first);
     struct NameParts {
         const std::wstring& namespaceUri;
         const std::wstring& localName;
@@ -110,9 +129,9 @@ private:
     NameParts ReadLiteralName(unsigned char first);
     const std::wstring& ReadIdentifyingString(TextTable& table);
 
-    ValueTable::Value RequireValue(const ValueTable& table, std::uint64_t index, const wchar_t* message);
     void AddValue(ValueTable& table, const Utf16Unit* nodeUnits, std::size_t count);
     void CountIndexedText(std::size_t length);
+    [[noreturn]] void ThrowTooMuchIndexedText() const;
 
     CXmlDocument& m_document;
     TreeBuilder m_tree;
@@ -226,12 +245,7 @@ void CFastInfosetReader::Decoder::ReadContent()
 
 void CFastInfosetReader::Decoder::StartElement(unsigned char first)
 {
-    unsigned char nameOctet = first;
-    if (HasNamespaceAttributes(first)) {
-        ReadNamespaceAttributes();
-        nameOctet = m_input.Fetch();
-    }
-    const XmlName& name = ReadElementName(nameOctet);
+    const XmlName& name = ReadElementName(first);
     CXmlElement& element = m_tree.HasOpenElement() ? m_tree.OpenChild(name) : m_tree.OpenRoot(name);
     if (first & HAS_ATTRIBUTES) {
         ReadAttributes(element);
@@ -280,35 +294,59 @@ void CFastInfosetReader::Decoder::ReadAttributeValue(CXmlElement& element, const
 {
     const unsigned char first = m_input.Fetch();
     if (first & INDEX_ON_BIT_1) {
-        const std::uint64_t index = m_input.ReadIntegerOrZeroOnBit2(first);
-        if (index == 0) {
-            TreeBuilder::AddWideAttribute(element, name, std::wstring());
-            return;
-        }
-        const ValueTable::Value value = RequireValue(
-            m_vocabulary.GetAttributeValues(), index, FastInfosetReaderMessages::INVALID_INTEGER_OR_ZERO_ON_BIT_2);
-        if (value.wide) {
-            TreeBuilder::AddWideAttribute(element, name, *value.wide);
-        } else {
-            m_tree.AddSharedAttribute(element, name, value.units, value.length);
-        }
+        ReadIndexedValue(element, name, m_input.ReadIntegerOrZeroOnBit2(first));
         return;
     }
-    const EncodedString literal = ReadEncodedStringOnBit3(m_input, first);
     const bool isAdded = first & ADD_ON_BIT_2;
-    if (literal.encoding == EncodedString::Utf8) {
-        const std::size_t count = DecodeUnits(literal.content);
-        TreeBuilder::AddParsedAttribute(element, name, m_units.data(), count);
+    if (first & ENCODING_ON_BIT_3) {
+        AddEncodedValue(element, name, ReadEncodedStringOnBit3(m_input, first), isAdded);
+        return;
+    }
+    const OctetString content = m_input.ReadStringOnBit5(first);
+    if (const Utf16Unit* const units = DecodePlainText(content)) {
+        m_tree.AddSharedAttribute(element, name, units, content.length);
         if (isAdded) {
-            AddValue(m_vocabulary.GetAttributeValues(), NodeAccess::FindLastValueUnits(element), count);
+            m_vocabulary.GetAttributeValues().Add(units, content.length);
         }
         return;
     }
+    AddLiteralValue(element, name, content, isAdded);
+}
+
+void CFastInfosetReader::Decoder::AddEncodedValue(
+    CXmlElement& element, const XmlName& name, const EncodedString& literal, bool isAdded)
+{
     m_text.clear();
     AppendEncodedString(m_text, literal, m_vocabulary.GetAlphabets());
     TreeBuilder::AddWideAttribute(element, name, m_text);
     if (isAdded) {
         m_vocabulary.GetAttributeValues().Add(m_text);
+    }
+}
+
+void CFastInfosetReader::Decoder::AddLiteralValue(
+    CXmlElement& element, const XmlName& name, OctetString content, bool isAdded)
+{
+    const std::size_t count = DecodeUnits(content);
+    TreeBuilder::AddParsedAttribute(element, name, m_units.data(), count);
+    if (isAdded) {
+        AddValue(m_vocabulary.GetAttributeValues(), NodeAccess::FindLastValueUnits(element), count);
+    }
+}
+
+void CFastInfosetReader::Decoder::ReadIndexedValue(CXmlElement& element, const XmlName& name, std::uint64_t index)
+{
+    const ValueTable& table = m_vocabulary.GetAttributeValues();
+    if (const ValueTable::Units* const value = table.FindUnits(index)) {
+        CountIndexedText(value->length);
+        m_tree.AddSharedAttribute(element, name, value->units, value->length);
+    } else if (index == 0) {
+        TreeBuilder::AddWideAttribute(element, name, std::wstring());
+    } else {
+        const std::wstring& text =
+            RequireEntry(table.FindText(index), FastInfosetReaderMessages::INVALID_INTEGER_OR_ZERO_ON_BIT_2);
+        CountIndexedText(text.size());
+        TreeBuilder::AddWideAttribute(element, name, text);
     }
 }
 
@@ -319,16 +357,24 @@ void CFastInfosetReader::Decoder::ReadChunk(unsigned char first)
         ReadIndexedChunk(element, m_input.ReadIntegerOnBit4(first));
         return;
     }
-    const EncodedString literal = ReadEncodedStringOnBit5(m_input, first);
     const bool isAdded = first & ADD_ON_BIT_4;
-    if (literal.encoding == EncodedString::Utf8) {
-        const std::size_t count = DecodeUnits(UpToNul(literal.content));
-        NodeAccess::AppendUnits(element, m_units.data(), count);
-        if (isAdded) {
-            AddValue(m_vocabulary.GetCharacterChunks(), NodeAccess::FindTextUnits(element, count), count);
-        }
+    if (first & ENCODING_ON_BIT_5) {
+        AppendEncoded(element, ReadEncodedStringOnBit5(m_input, first), isAdded);
         return;
     }
+    const OctetString content = m_input.ReadStringOnBit7(first);
+    if (const Utf16Unit* const units = m_tree.CanShareText(element) ? DecodePlainText(content) : nullptr) {
+        TreeBuilder::ShareText(element, units, content.length);
+        if (isAdded) {
+            m_vocabulary.GetCharacterChunks().Add(units, content.length);
+        }
+    } else {
+        AppendLiteral(element, content, isAdded);
+    }
+}
+
+void CFastInfosetReader::Decoder::AppendEncoded(CXmlElement& element, const EncodedString& literal, bool isAdded)
+{
     m_text.clear();
     AppendEncodedString(m_text, literal, m_vocabulary.GetAlphabets());
     if (isAdded) {
@@ -337,40 +383,67 @@ void CFastInfosetReader::Decoder::ReadChunk(unsigned char first)
     m_document.AppendTextExcludingCR(&element, m_text);
 }
 
+void CFastInfosetReader::Decoder::AppendLiteral(CXmlElement& element, OctetString content, bool isAdded)
+{
+    const std::size_t count = DecodeUnits(UpToNul(content));
+    NodeAccess::AppendUnits(element, m_units.data(), count);
+    if (isAdded) {
+        AddValue(m_vocabulary.GetCharacterChunks(), NodeAccess::FindTextUnits(element, count), count);
+    }
+}
+
 void CFastInfosetReader::Decoder::ReadIndexedChunk(CXmlElement& element, std::uint64_t index)
 {
-    const ValueTable::Value text =
-        RequireValue(m_vocabulary.GetCharacterChunks(), index, FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_4);
-    if (text.wide) {
-        m_document.AppendTextExcludingCR(&element, *text.wide);
-    } else if (NodeAccess::HasText(element) || ContainsCR(text.units, text.length)) {
-        NodeAccess::AppendUnits(element, text.units, text.length);
-    } else {
-        NodeAccess::ShareText(element, text.units, text.length);
+    const ValueTable& table = m_vocabulary.GetCharacterChunks();
+    if (const ValueTable::Units* const chunk = table.FindUnits(index)) {
+        CountIndexedText(chunk->length);
+        if (m_tree.CanShareText(element)) {
+            TreeBuilder::ShareText(element, chunk->units, chunk->length);
+        } else {
+            NodeAccess::AppendUnits(element, chunk->units, chunk->length);
+        }
+        return;
     }
+    const std::wstring& text =
+        RequireEntry(table.FindText(index), FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_4);
+    CountIndexedText(text.size());
+    m_document.AppendTextExcludingCR(&element, text);
 }
 
-ValueTable::Value CFastInfosetReader::Decoder::RequireValue(
-    const ValueTable& table, std::uint64_t index, const wchar_t* message)
-{
-    ValueTable::Value value;
-    if (!table.Find(index, value)) {
-        ThrowFastInfosetFailure(message);
-    }
-    CountIndexedText(value.length);
-    return value;
-}
-
-/// @param nodeUnits what has just been decoded as it lies in a node; null when it does not.
+/// Enters what lies in m_units. Texts with carriage returns are wide: nodes take them without, or have them apart.
+/// @param nodeUnits the same as it lies in a node; null when it does not.
 void CFastInfosetReader::Decoder::AddValue(ValueTable& table, const Utf16Unit* nodeUnits, std::size_t count)
 {
-    if (!nodeUnits && !table.IsFull()) {
+    if (table.IsFull()) {
+        return;
+    }
+    if (count > LONGEST_SHARED_TEXT || ContainsCR(m_units.data(), count)) {
+        table.Add(std::wstring(m_units.data(), m_units.data() + count));
+        return;
+    }
+    if (!nodeUnits) {
         Arena& arena = m_tree.GetStorage().GetArena();
         auto* const copy = static_cast<Utf16Unit*>(arena.Allocate(count * sizeof(Utf16Unit), alignof(Utf16Unit)));
         std::copy_n(m_units.data(), count, copy);
         nodeUnits = copy;
     }
     table.Add(nodeUnits, count);
+}
+
+/// Decodes most texts where they will stay, in the memory of the document; null for any other.
+const Utf16Unit* CFastInfosetReader::Decoder::DecodePlainText(OctetString content)
+{
+    DocumentStorage& storage = m_tree.GetStorage();
+    if (m_input.GetRest() < PLAIN_BLOCK || content.length > LONGEST_SHARED_TEXT || !storage.KeepsTexts()) {
+        return nullptr;
+    }
+    Arena& arena = storage.GetArena();
+    Utf16Unit* const units = arena.FindRoom<Utf16Unit>(content.length + PLAIN_BLOCK);
+    if (!units || !WidenPlainText(content.octets, content.length, units)) {
+        return nullptr;
+    }
+    arena.Take(units + content.length);
+    return units;
 }
 
 /// Decodes UTF-8 into m_units. @return the number of units.
@@ -384,6 +457,19 @@ std::size_t CFastInfosetReader::Decoder::DecodeUnits(OctetString content)
 
 const XmlName& CFastInfosetReader::Decoder::ReadElementName(unsigned char first)
 {
+    if (!(first & LONG_ON_BIT_3)) { // as most are
+        return RequireEntry(m_vocabulary.FindElementName(m_input.ReadIntegerOnBit3(first)),
+            FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_3);
+    }
+    return ReadLongElementName(first);
+}
+
+const XmlName& CFastInfosetReader::Decoder::ReadLongElementName(unsigned char first)
+{
+    if (HasNamespaceAttributes(first)) {
+        ReadNamespaceAttributes();
+        first = m_input.Fetch();
+    }
     if (!IsLiteralElementName(first)) {
         return RequireEntry(m_vocabulary.FindElementName(m_input.ReadIntegerOnBit3(first)),
             FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_3);
@@ -398,6 +484,11 @@ const XmlName& CFastInfosetReader::Decoder::ReadAttributeName(unsigned char firs
         return RequireEntry(m_vocabulary.FindAttributeName(m_input.ReadIntegerOnBit2(first)),
             FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_2);
     }
+    return ReadLiteralAttributeName(first);
+}
+
+const XmlName& CFastInfosetReader::Decoder::ReadLiteralAttributeName(unsigned char first)
+{
     const NameParts parts = ReadLiteralName(first);
     return m_vocabulary.AddAttributeName(parts.namespaceUri, parts.localName);
 }
@@ -434,12 +525,17 @@ const std::wstring& CFastInfosetReader::Decoder::ReadIdentifyingString(TextTable
     return table.Add(std::move(text));
 }
 
+void CFastInfosetReader::Decoder::ThrowTooMuchIndexedText() const
+{
+    throw CZrException(FormatString(FastInfosetReaderMessages::TOO_MUCH_INDEXED_TEXT, m_indexedTextLimit));
+}
+
 // An index of one octet may stand for a text of any length: without a limit a few kilobytes fill the memory.
 void CFastInfosetReader::Decoder::CountIndexedText(std::size_t length)
 {
     m_indexedText += length;
     if (m_indexedText > m_indexedTextLimit) {
-        throw CZrException(FormatString(FastInfosetReaderMessages::TOO_MUCH_INDEXED_TEXT, m_indexedTextLimit));
+        ThrowTooMuchIndexedText();
     }
 }
 

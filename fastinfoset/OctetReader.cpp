@@ -12,7 +12,7 @@ void ThrowFastInfosetFailure(const wchar_t* message)
 
 std::uint64_t OctetReader::DecodeLonger(const Codec& codec, unsigned char first, const wchar_t* invalid)
 {
-    for (std::size_t i = 1; i < codec.count; ++i) {
+    for (std::size_t i = 2; i < codec.count; ++i) {
         const CodecRange& range = codec.ranges[i];
         if ((first & range.patternMask) == range.pattern) {
             std::uint64_t offset = first & ValueMask(range);
@@ -34,7 +34,7 @@ std::uint64_t OctetReader::ReadIntegerOrZeroOnBit2(unsigned char first)
     if ((first & ZERO) == ZERO) {
         return 0;
     }
-    return Decode(INTEGER_ON_BIT_2, first, FastInfosetReaderMessages::INVALID_INTEGER_OR_ZERO_ON_BIT_2);
+    return Decode<INTEGER_ON_BIT_2>(first, FastInfosetReaderMessages::INVALID_INTEGER_OR_ZERO_ON_BIT_2);
 }
 
 std::uint64_t OctetReader::ReadSequenceLength()

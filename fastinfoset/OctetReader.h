@@ -5,6 +5,7 @@
 #include "fastinfoset/CodecRanges.h"
 #include "fastinfoset/FastInfosetReaderMessages.h"
 
+#include <cstddef>
 #include <cstdint>
 
 namespace ZrXmlLib16 {
@@ -39,18 +40,21 @@ public:
         return *m_position++;
     }
 
+    /// How much of the input has not been taken yet.
+    std::size_t GetRest() const noexcept { return static_cast<std::size_t>(m_end - m_position); }
+
     /// Integers from 1 to 2^20.
     std::uint64_t ReadIntegerOnBit2(unsigned char first)
     {
-        return Decode(INTEGER_ON_BIT_2, first, FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_2);
+        return Decode<INTEGER_ON_BIT_2>(first, FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_2);
     }
     std::uint64_t ReadIntegerOnBit3(unsigned char first)
     {
-        return Decode(INTEGER_ON_BIT_3, first, FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_3);
+        return Decode<INTEGER_ON_BIT_3>(first, FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_3);
     }
     std::uint64_t ReadIntegerOnBit4(unsigned char first)
     {
-        return Decode(INTEGER_ON_BIT_4, first, FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_4);
+        return Decode<INTEGER_ON_BIT_4>(first, FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_4);
     }
     /// Integers from 0 to 2^20.
     std::uint64_t ReadIntegerOrZeroOnBit2(unsigned char first);
@@ -58,40 +62,47 @@ public:
     /// Octet strings that are not empty.
     OctetString ReadStringOnBit2(unsigned char first)
     {
-        return Take(Decode(LENGTH_ON_BIT_2, first, FastInfosetReaderMessages::INVALID_LENGTH_ON_BIT_2));
+        return Take(Decode<LENGTH_ON_BIT_2>(first, FastInfosetReaderMessages::INVALID_LENGTH_ON_BIT_2));
     }
     OctetString ReadStringOnBit5(unsigned char first)
     {
-        return Take(Decode(LENGTH_ON_BIT_5, first, FastInfosetReaderMessages::INVALID_LENGTH_ON_BIT_5));
+        return Take(Decode<LENGTH_ON_BIT_5>(first, FastInfosetReaderMessages::INVALID_LENGTH_ON_BIT_5));
     }
     OctetString ReadStringOnBit7(unsigned char first)
     {
         // No pattern of two bits is invalid.
-        return Take(Decode(LENGTH_ON_BIT_7, first, nullptr));
+        return Take(Decode<LENGTH_ON_BIT_7>(first, nullptr));
     }
 
     /// Number of items of a sequence, from 1 to 2^20 (X.891, C.21).
     std::uint64_t ReadSequenceLength();
 
 private:
-    std::uint64_t Decode(const Codec& codec, unsigned char first, const wchar_t* invalid)
+    // The code is an argument of the template so that its ranges are constants.
+    template <const Codec& CODEC> std::uint64_t Decode(unsigned char first, const wchar_t* invalid)
     {
-        const CodecRange& shortest = codec.ranges[0];
+        constexpr const CodecRange& shortest = CODEC.ranges[0];
         if ((first & shortest.patternMask) == shortest.pattern) {
             return shortest.first + (first & ValueMask(shortest));
         }
-        return DecodeLonger(codec, first, invalid);
+        constexpr const CodecRange& second = CODEC.ranges[1];
+        static_assert(second.octets == 1 && second.last - second.first == (ValueMask(second) << 8 | 0xFF));
+        if ((first & second.patternMask) == second.pattern) {
+            return second.first + ((first & ValueMask(second)) << 8 | Fetch());
+        }
+        return DecodeLonger(CODEC, first, invalid);
     }
     static constexpr unsigned ValueMask(const CodecRange& range)
     {
         // The value fills what is right of the pattern.
         return (range.patternMask & (0u - range.patternMask)) - 1;
     }
+    /// The third range and those behind it.
     std::uint64_t DecodeLonger(const Codec& codec, unsigned char first, const wchar_t* invalid);
 
     OctetString Take(std::uint64_t length)
     {
-        if (length > static_cast<std::uint64_t>(m_end - m_position)) {
+        if (length > GetRest()) {
             ThrowFastInfosetFailure(FastInfosetReaderMessages::UNEXPECTED_END);
         }
         const OctetString taken = {m_position, length};

@@ -2,7 +2,6 @@
 #include "fastinfoset/ReaderVocabulary.h"
 
 #include "ZrXmlLib16/FastInfosetContext.h"
-#include "fastinfoset/CodecRanges.h"
 #include "xml/NameTable.h"
 #include "xml/XmlNamespaces.h"
 
@@ -45,49 +44,20 @@ ValueTable::ValueTable(const CFIVocabulary::CFIStringTable* base)
 {
 }
 
-bool ValueTable::Find(std::uint64_t index, Value& value) const noexcept
+const std::wstring* ValueTable::FindText(std::uint64_t index) const noexcept
 {
     const std::uint64_t offset = index - 1; // wraps for 0
     if (offset < m_baseSize) {
-        value = {nullptr, m_base[offset].size(), m_base + offset};
-        return true;
+        return m_base + offset;
     }
-    if (offset - m_baseSize >= m_added.size()) {
-        return false;
-    }
-    const Entry& entry = m_added[offset - m_baseSize];
-    if (entry.units) {
-        value = {entry.units, entry.length, nullptr};
-    } else {
-        value = {nullptr, m_wide[entry.length].size(), &m_wide[entry.length]};
-    }
-    return true;
+    return offset - m_baseSize < m_added.size() ? &m_wide[m_added[offset - m_baseSize].length] : nullptr;
 }
 
-bool ValueTable::IsFull() const noexcept
-{
-    return m_baseSize + m_added.size() >= MAXIMUM_INDEX;
-}
-
-void ValueTable::Add(const unsigned short* units, std::size_t length)
-{
-    static constexpr unsigned short none[1] = {};
-    Add(Entry{length == 0 ? none : units, length});
-}
-
-void ValueTable::Add(const std::wstring& text)
+void ValueTable::Add(std::wstring text)
 {
     if (!IsFull()) {
-        m_wide.push_back(text);
-        Add(Entry{nullptr, m_wide.size() - 1});
-    }
-}
-
-void ValueTable::Add(const Entry& entry)
-{
-    if (!IsFull()) {
-        ReserveFirst(m_added);
-        m_added.push_back(entry);
+        m_wide.push_back(std::move(text));
+        m_added.push_back({nullptr, m_wide.size() - 1});
     }
 }
 

@@ -3,9 +3,9 @@
 #define FASTINFOSET_READERVOCABULARY_H
 
 #include "ZrXmlLib16/FIVocabulary.h"
+#include "fastinfoset/CodecRanges.h"
 
 #include <cstdint>
-#include <deque>
 #include <string>
 #include <utility>
 #include <vector>
@@ -44,40 +44,43 @@ private:
     std::wstring m_unlisted; // the last text that found the table full
 };
 
-/// The attribute values or character chunks that an index stands for. Those that the document brought are units in its
-/// memory, which its nodes share.
+/// The attribute values or character chunks that an index stands for. Most of those that the document brought are units
+/// in its memory, which its nodes share; the others and the base are wide text.
 class ValueTable {
 public:
-    /// Either units or, for an entry of the base or one that is no UTF-16, wide text.
-    struct Value {
+    /// Without carriage returns, and fewer than 2^32 - 1.
+    struct Units {
         const unsigned short* units;
-        std::size_t length; // also of the wide text
-        const std::wstring* wide;
+        std::size_t length;
     };
 
     /// @param base not owned, null for none.
     explicit ValueTable(const CFIVocabulary::CFIStringTable* base);
 
-    /// @return false for an index that is not in the table. The value stays valid until the next Add.
-    bool Find(std::uint64_t index, Value& value) const noexcept;
+    /// Null for an entry that is wide text. Valid until the next Add.
+    const Units* FindUnits(std::uint64_t index) const noexcept
+    {
+        const std::uint64_t offset = index - 1 - m_baseSize; // wraps for what is not above the base
+        return offset < m_added.size() && m_added[offset].units ? &m_added[offset] : nullptr;
+    }
+    /// For entries that are not units; null for an index that is not in the table.
+    const std::wstring* FindText(std::uint64_t index) const noexcept;
     /// Once the table is full, nothing is added.
-    bool IsFull() const noexcept;
-    /// @param units not owned.
-    void Add(const unsigned short* units, std::size_t length);
-    void Add(const std::wstring& text);
+    bool IsFull() const noexcept { return m_baseSize + m_added.size() >= MAXIMUM_INDEX; }
+    /// @param units not owned, not null.
+    void Add(const unsigned short* units, std::size_t length)
+    {
+        if (!IsFull()) {
+            m_added.push_back({units, length});
+        }
+    }
+    void Add(std::wstring text);
 
 private:
-    struct Entry {
-        const unsigned short* units; // null: the length is an index of m_wide
-        std::size_t length;
-    };
-
-    void Add(const Entry& entry);
-
     const std::wstring* m_base;
     std::uint64_t m_baseSize;
-    std::vector<Entry> m_added;
-    std::deque<std::wstring> m_wide;
+    std::vector<Units> m_added; // without units: the length is an index of m_wide
+    std::vector<std::wstring> m_wide;
 };
 
 /// The tables of one document while it is read. The names of elements and attributes are those of the document

@@ -50,10 +50,9 @@ public:
     /// chunk has less.
     template <class T> T* FindRoom(std::size_t count) const noexcept
     {
-        unsigned char* const start = m_free + PaddingOf(alignof(T));
-        return start <= m_end && count <= static_cast<std::size_t>(m_end - start) / sizeof(T)
-            ? reinterpret_cast<T*>(start)
-            : nullptr;
+        const std::size_t padding = PaddingOf(alignof(T));
+        const bool fits = count * sizeof(T) + padding <= static_cast<std::size_t>(m_end - m_free);
+        return fits ? reinterpret_cast<T*>(m_free + padding) : nullptr;
     }
     /// Makes a piece of the room that was found last.
     void Take(const void* pieceEnd) noexcept { m_free = m_free + (static_cast<const unsigned char*>(pieceEnd) - m_free); }

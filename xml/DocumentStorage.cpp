@@ -21,15 +21,6 @@ constexpr std::size_t LARGEST_ESTIMATED_INPUT = std::size_t(1) << 30;
 
 } // namespace
 
-NodePool::NodePool(DocumentStorage& owner, std::size_t nodeSize) noexcept
-    : m_owner(owner)
-    , m_stride(HEADER_SIZE + nodeSize)
-    , m_freeNodes(nullptr)
-{
-    static_assert(alignof(CXmlElement) <= HEADER_SIZE && sizeof(CXmlElement) % HEADER_SIZE == 0);
-    static_assert(alignof(CXmlAttribute) <= HEADER_SIZE && sizeof(CXmlAttribute) % HEADER_SIZE == 0);
-}
-
 // The pool is still noted in front of the node.
 void* NodePool::AllocateAgain() noexcept
 {
@@ -74,8 +65,8 @@ DocumentStorage::DocumentStorage(CXmlDocument& document, std::size_t inputSize)
     : m_document(document)
     , m_arena(std::min(inputSize, LARGEST_ESTIMATED_INPUT) * ARENA_PER_INPUT)
     , m_classes(m_arena)
-    , m_elements(*this, sizeof(CXmlElement))
-    , m_attributes(*this, sizeof(CXmlAttribute))
+    , m_elements(*this)
+    , m_attributes(*this)
     , m_names(*this)
 {
 }

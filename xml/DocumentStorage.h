@@ -20,11 +20,17 @@ class CXmlDocument;
 /// `delete` finds the way back.
 class NodePool {
 public:
-    NodePool(DocumentStorage& owner, std::size_t nodeSize) noexcept;
+    static constexpr std::size_t ALIGNMENT = alignof(void*);
+
+    explicit NodePool(DocumentStorage& owner) noexcept
+        : m_owner(owner)
+    {
+    }
     NodePool(const NodePool&) = delete;
     NodePool& operator=(const NodePool&) = delete;
 
-    void* Allocate();
+    /// @param nodeSize always the same.
+    void* Allocate(std::size_t nodeSize);
     /// The same from the heap.
     static void* AllocateFromHeap(std::size_t nodeSize);
     /// Takes back what either of the two gave out; null is allowed.
@@ -46,8 +52,7 @@ private:
     void* AllocateAgain() noexcept;
 
     DocumentStorage& m_owner;
-    const std::size_t m_stride;
-    void* m_freeNodes; // linked through their first word
+    void* m_freeNodes = nullptr; // linked through their first word
 };
 
 /// Nodes, names and texts of one document between two clean-ups. Belongs to the document, and after it to the nodes
@@ -108,12 +113,13 @@ private:
     bool m_abandoned = false;
 };
 
-inline void* NodePool::Allocate()
+inline void* NodePool::Allocate(std::size_t nodeSize)
 {
     if (m_freeNodes) {
         return AllocateAgain();
     }
-    void* const node = static_cast<unsigned char*>(m_owner.m_arena.Allocate(m_stride, HEADER_SIZE)) + HEADER_SIZE;
+    void* const piece = m_owner.m_arena.Allocate(HEADER_SIZE + nodeSize, ALIGNMENT);
+    void* const node = static_cast<unsigned char*>(piece) + HEADER_SIZE;
     StorePool(node, this);
     ++m_owner.m_liveNodes;
     return node;

@@ -84,6 +84,18 @@ public:
     {
         element.AddNamedAttribute(name, value);
     }
+
+    /// Whether the text of an element can be one that lies in the memory of the document already: nothing was appended
+    /// so far.
+    bool CanShareText(const CXmlElement& element) const noexcept
+    {
+        return m_storage.KeepsTexts() && element.m_text.IsUntouched();
+    }
+    /// @param text without carriage returns.
+    static void ShareText(CXmlElement& element, const Utf16Unit* text, std::size_t length) noexcept
+    {
+        element.m_text.Adopt(text, length);
+    }
     static void SetPosition(CXmlElement& element, TextPosition position) noexcept { element.m_position = position; }
 
 private:

@@ -33,9 +33,10 @@ void* CXmlAttribute::operator new(std::size_t size)
     return NodePool::AllocateFromHeap(size);
 }
 
-void* CXmlAttribute::operator new(std::size_t, NodePool& pool)
+void* CXmlAttribute::operator new(std::size_t size, NodePool& pool)
 {
-    return pool.Allocate();
+    static_assert(alignof(CXmlAttribute) <= NodePool::ALIGNMENT && sizeof(CXmlAttribute) % NodePool::ALIGNMENT == 0);
+    return pool.Allocate(size);
 }
 
 void CXmlAttribute::operator delete(void* node)

@@ -55,9 +55,10 @@ void* CXmlElement::operator new(std::size_t size)
     return NodePool::AllocateFromHeap(size);
 }
 
-void* CXmlElement::operator new(std::size_t, NodePool& pool)
+void* CXmlElement::operator new(std::size_t size, NodePool& pool)
 {
-    return pool.Allocate();
+    static_assert(alignof(CXmlElement) <= NodePool::ALIGNMENT && sizeof(CXmlElement) % NodePool::ALIGNMENT == 0);
+    return pool.Allocate(size);
 }
 
 void CXmlElement::operator delete(void* node)
