@@ -28,19 +28,22 @@ void WidenRun(__m128i units, wchar_t* output)
     Store(_mm_unpackhi_epi16(units, _mm_setzero_si128()), output + ASCII_RUN / 2);
 }
 
-/// Widens one run. @return false when it is not ASCII; the output then is undefined.
-template <class Unit> bool DecodeAsciiRun(const unsigned char* data, Unit* output)
+/// Widens one run. @return a bit for every octet that is not ASCII; the output from the first of them on is undefined.
+template <class Unit> unsigned DecodeAsciiRun(const unsigned char* data, Unit* output)
 {
     const __m128i octets = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(data));
     WidenRun(_mm_unpacklo_epi8(octets, _mm_setzero_si128()), output);
-    return _mm_movemask_epi8(octets) == 0;
+    return static_cast<unsigned>(_mm_movemask_epi8(octets));
 }
 
-/// Decodes as many runs of ASCII as there are. @return the number of octets.
+/// Decodes ASCII up to the first other octet or the last few. @return the number of octets.
 template <class Unit> unsigned long DecodeAscii(const unsigned char* data, unsigned long length, Unit* output)
 {
     unsigned long at = 0;
-    while (length - at >= ASCII_RUN && DecodeAsciiRun(data + at, output + at)) {
+    while (length - at >= ASCII_RUN) {
+        if (const unsigned others = DecodeAsciiRun(data + at, output + at)) {
+            return at + static_cast<unsigned>(__builtin_ctz(others));
+        }
         at += ASCII_RUN;
     }
     return at;
@@ -60,7 +63,7 @@ template <class Unit> bool DecodeShortAscii(const unsigned char* data, unsigned 
     }
     // The last run may begin within the one before.
     return length - DecodeAscii(data, length, output) < ASCII_RUN
-        && DecodeAsciiRun(data + length - ASCII_RUN, output + length - ASCII_RUN);
+        && DecodeAsciiRun(data + length - ASCII_RUN, output + length - ASCII_RUN) == 0;
 }
 
 bool IsTail(unsigned char octet)

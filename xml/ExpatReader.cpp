@@ -11,7 +11,6 @@
 #include "core/ErrorPosition.h"
 #include "core/FormatSettings.h"
 #include "xml/ConvertedTextScope.h"
-#include "xml/NodeAccess.h"
 #include "xml/XmlMessages.h"
 
 #include <expat.h>
@@ -35,8 +34,8 @@ constexpr unsigned long LARGEST_EXPANSION = 1ul << 60;
 // What the parser needs whatever the document, several times.
 constexpr std::size_t MEMORY_BEYOND_EXPANSION = std::size_t(1) << 20;
 
-// The names that the parser hands out lie in its memory.
-static_assert(ParserMemory::SLACK >= NameTable::OVERREAD);
+// The names and values that the parser hands out lie in its memory.
+static_assert(ParserMemory::SLACK >= NameTable::OVERREAD && ParserMemory::SLACK >= TreeBuilder::READ_BEHIND);
 
 std::wstring WidenOptional(const Utf16Unit* units)
 {
@@ -181,10 +180,9 @@ void CExpatReader::StartElement(const Utf16Unit* name, const Utf16Unit** attribu
     CXmlElement& element = m_tree.HasOpenElement() ? m_tree.OpenChild(elementName) : m_tree.OpenRoot(elementName);
     TreeBuilder::SetPosition(element, m_lines.Locate(CurrentOffset(m_parser.get())));
     for (; *attributes; attributes += 2) {
-        const Utf16Unit* const value = attributes[1];
         const XmlName& attributeName = names.Intern(attributes[0]);
         m_tree.CountName(attributeName);
-        TreeBuilder::AddParsedAttribute(element, attributeName, value, Utf16Length(value));
+        m_tree.AddAttribute(element, attributeName, attributes[1]);
     }
 }
 
@@ -196,7 +194,7 @@ void CExpatReader::FnEndElement(void* reader, const Utf16Unit*) noexcept
 void CExpatReader::FnText(void* reader, const Utf16Unit* text, int length) noexcept
 {
     Guard(reader, [=](CExpatReader& self) {
-        NodeAccess::AppendUnits(self.m_tree.RequireOpenElement(), text, static_cast<std::size_t>(length));
+        self.m_tree.AppendText(self.m_tree.RequireOpenElement(), text, static_cast<std::size_t>(length));
     });
 }
 

@@ -60,6 +60,7 @@ NameTable::Entry::Entry(const Key& key, const NamespaceText& namespaceText, std:
     , name(namespaceText, std::move(localName), &storage)
     , keySize(key.size)
     , hash(key.hash)
+    , firstBlock((1u << std::min(key.size, BLOCK)) - 1)
     , form(key.form)
     , older(olderEntry)
 {

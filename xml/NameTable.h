@@ -97,13 +97,13 @@ private:
 
         bool Is(const Key& key) const noexcept;
         bool Is(const Utf16Unit* qualifiedName) const noexcept;
-        static bool SameStart(const char* own, const char* other, std::size_t size) noexcept;
         const char* KeyBytes() const noexcept { return reinterpret_cast<const char*>(this + 1); }
 
         const NamespaceText& text; // which an entry for a namespace owns
         const XmlName name;
         const std::size_t keySize; // of the parser's form: with the final NUL
         const std::uint64_t hash;
+        const unsigned firstBlock; // a bit for every octet of the key that is in the first block
         const KeyForm form;
         Entry* const older;              // all entries, the newest first
         Entry* followers[2] = {nullptr}; // the parser's names that came after this one, the latest new one first
@@ -135,32 +135,24 @@ inline bool NameTable::Entry::Is(const Utf16Unit* qualifiedName) const noexcept
 {
     const char* own = KeyBytes();
     const char* other = reinterpret_cast<const char*>(qualifiedName);
-    if (keySize < BLOCK) {
-        return SameStart(own, other, keySize);
+    const __m128i same = _mm_cmpeq_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(own)),
+        _mm_loadu_si128(reinterpret_cast<const __m128i*>(other)));
+    if ((~static_cast<unsigned>(_mm_movemask_epi8(same)) & firstBlock) != 0) {
+        return false;
     }
-    std::size_t rest = keySize;
-    for (; rest > BLOCK; rest -= BLOCK, own += BLOCK, other += BLOCK) {
+    if (keySize <= BLOCK) {
+        return true;
+    }
+    std::size_t rest = keySize - BLOCK;
+    for (; rest > BLOCK; rest -= BLOCK) {
+        own += BLOCK;
+        other += BLOCK;
         if (!SameBytes<BLOCK>(own, other)) {
             return false;
         }
     }
-    // The last block may begin within the one before.
-    return SameBytes<BLOCK>(own + rest - BLOCK, other + rest - BLOCK);
-}
-
-// A block of either is read, and what lies behind the first octets left out of account.
-inline bool NameTable::Entry::SameStart(const char* own, const char* other, std::size_t size) noexcept
-{
-    constexpr std::size_t HALF = sizeof(std::uint64_t);
-    std::uint64_t ownHalves[2];
-    std::uint64_t otherHalves[2];
-    std::memcpy(ownHalves, own, BLOCK);
-    std::memcpy(otherHalves, other, BLOCK);
-    const std::size_t half = size < HALF ? 0 : 1;
-    const std::uint64_t mask = (std::uint64_t(1) << (8 * (size - half * HALF))) - 1;
-    const std::uint64_t first = ownHalves[0] ^ otherHalves[0];
-    const std::uint64_t second = ownHalves[1] ^ otherHalves[1];
-    return half == 0 ? (first & mask) == 0 : (first | (second & mask)) == 0;
+    // The last block begins within the one before, unless it is whole.
+    return SameBytes<BLOCK>(own + rest, other + rest);
 }
 
 } // namespace ZrXmlLib16

@@ -20,6 +20,8 @@ public:
     {
     }
 
+    static constexpr std::size_t READ_BEHIND = UTF16_RUN * sizeof(Utf16Unit);
+
     DocumentStorage& GetStorage() const noexcept { return m_storage; }
 
     bool HasOpenElement() const noexcept { return !m_document.m_elementStack.empty(); }
@@ -74,7 +76,21 @@ public:
         attribute->m_value.Adopt(value, length);
         element.LinkAttribute(attribute);
     }
-    /// The same for a value that is not there yet and in which anything may be.
+    /// The same for a value that is somewhere else and ends with NUL. READ_BEHIND octets behind it can be read.
+    void AddAttribute(CXmlElement& element, const XmlName& name, const Utf16Unit* value)
+    {
+        Arena& arena = m_storage.GetArena();
+        if (Utf16Unit* const room = m_storage.KeepsTexts() ? arena.FindRoom<Utf16Unit>(LONGEST_SHORT_TEXT + 1) : nullptr) {
+            const std::size_t length = CopyShortText(room, value);
+            if (length <= LONGEST_SHORT_TEXT) {
+                arena.Take(room + length);
+                AddSharedAttribute(element, name, room, length);
+                return;
+            }
+        }
+        AddParsedAttribute(element, name, value, Utf16Length(value));
+    }
+    /// The same for a value in which anything may be.
     static void AddParsedAttribute(
         CXmlElement& element, const XmlName& name, const Utf16Unit* value, std::size_t length)
     {
@@ -95,6 +111,20 @@ public:
     static void ShareText(CXmlElement& element, const Utf16Unit* text, std::size_t length) noexcept
     {
         element.m_text.Adopt(text, length);
+    }
+    /// Appends text that is somewhere else, carriage returns left out.
+    void AppendText(CXmlElement& element, const Utf16Unit* text, std::size_t length)
+    {
+        if (CanShareText(element)) { // most texts come in one piece
+            Arena& arena = m_storage.GetArena();
+            Utf16Unit* const room = arena.FindRoom<Utf16Unit>(length);
+            if (room && CopyWithoutCR(room, text, length)) {
+                arena.Take(room + length);
+                ShareText(element, room, length);
+                return;
+            }
+        }
+        element.m_text.AppendUnits(&m_storage, text, length);
     }
     static void SetPosition(CXmlElement& element, TextPosition position) noexcept { element.m_position = position; }
 

@@ -8,6 +8,8 @@
 #include <cstring>
 #include <string>
 
+#include <emmintrin.h>
+
 namespace ZrXmlLib16 {
 
 /// Character of the parser: one UTF-16 unit. Wide text holds one unit per character, so surrogate pairs stay two
@@ -119,29 +121,81 @@ inline bool ContainsCR(const Utf16Unit* units, std::size_t length) noexcept
     return found != 0;
 }
 
-/// Copies the units, carriage returns left out. Short texts are the rule, and their lengths cannot be foretold: words
-/// that overlap need few branches.
+/// Units that are copied in one go.
+constexpr std::size_t UTF16_RUN = 8;
+
+/// The highest bits of the octets tell where the units are that have this value.
+inline unsigned FindUnit(__m128i run, Utf16Unit unit) noexcept
+{
+    return static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi16(run, _mm_set1_epi16(static_cast<short>(unit)))));
+}
+
+inline __m128i CopyRun(Utf16Unit* output, const Utf16Unit* units) noexcept
+{
+    const __m128i run = _mm_loadu_si128(reinterpret_cast<const __m128i*>(units));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(output), run);
+    return run;
+}
+
+/// Copies the units. Short texts are the rule, and their lengths cannot be foretold: runs that overlap need few
+/// branches.
+/// @return false when a carriage return is among them.
+inline bool CopyWithoutCR(Utf16Unit* output, const Utf16Unit* units, std::size_t length) noexcept
+{
+    constexpr Utf16Unit CARRIAGE_RETURN = 13;
+    if (length >= UTF16_RUN) {
+        unsigned found = 0;
+        for (std::size_t position = 0; position + UTF16_RUN < length; position += UTF16_RUN) {
+            found |= FindUnit(CopyRun(output + position, units + position), CARRIAGE_RETURN);
+        }
+        const std::size_t last = length - UTF16_RUN;
+        return (found | FindUnit(CopyRun(output + last, units + last), CARRIAGE_RETURN)) == 0;
+    }
+    if (length >= 4) {
+        return (CopyWord<std::uint64_t>(output, units)
+                   | CopyWord<std::uint64_t>(output + length - 4, units + length - 4))
+            == 0;
+    }
+    if (length >= 2) {
+        return (CopyWord<std::uint32_t>(output, units)
+                   | CopyWord<std::uint32_t>(output + length - 2, units + length - 2))
+            == 0;
+    }
+    if (length == 1) {
+        *output = *units;
+    }
+    return length == 0 || *units != CARRIAGE_RETURN;
+}
+
+/// Copies the units, carriage returns left out.
 /// @return the end of what was written.
 inline Utf16Unit* CopyExcludingCR(Utf16Unit* output, const Utf16Unit* units, std::size_t length)
 {
-    constexpr Utf16Unit CARRIAGE_RETURN = 13;
-    std::uint64_t found = 0;
-    if (length >= 4) {
-        for (std::size_t position = 0; position + 4 < length; position += 4) {
-            found |= CopyWord<std::uint64_t>(output + position, units + position);
-        }
-        found |= CopyWord<std::uint64_t>(output + length - 4, units + length - 4);
-    } else if (length >= 2) {
-        found =
-            CopyWord<std::uint32_t>(output, units) | CopyWord<std::uint32_t>(output + length - 2, units + length - 2);
-    } else if (length == 1) {
-        *output = *units;
-        found = *units == CARRIAGE_RETURN;
-    }
-    if (found == 0) { // nearly always: the parser normalises line ends
+    if (CopyWithoutCR(output, units, length)) { // nearly always: the parser normalises line ends
         return output + length;
     }
-    return std::copy_if(units, units + length, output, [](Utf16Unit unit) { return unit != CARRIAGE_RETURN; });
+    return std::copy_if(units, units + length, output, [](Utf16Unit unit) { return unit != 13; });
+}
+
+/// Length of what CopyShortText copies.
+constexpr std::size_t LONGEST_SHORT_TEXT = 63;
+
+/// Copies a text that ends with NUL while it finds its end, if that comes soon.
+/// @param output has room for LONGEST_SHORT_TEXT + 1 units.
+/// @param text of which whole runs can be read.
+/// @return the length; more than LONGEST_SHORT_TEXT when the text is longer or has a carriage return.
+inline std::size_t CopyShortText(Utf16Unit* output, const Utf16Unit* text) noexcept
+{
+    for (std::size_t position = 0; position < LONGEST_SHORT_TEXT; position += UTF16_RUN) {
+        const __m128i run = CopyRun(output + position, text + position);
+        const unsigned ends = FindUnit(run, 0);
+        const unsigned returns = FindUnit(run, 13);
+        if ((ends | returns) != 0) {
+            const unsigned first = static_cast<unsigned>(__builtin_ctz(ends | returns));
+            return ends >> first & 1 ? position + first / sizeof(Utf16Unit) : SIZE_MAX;
+        }
+    }
+    return SIZE_MAX;
 }
 
 /// Whether every character is a single unit.
