@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <memory>
 #include <new>
 #include <utility>
@@ -94,7 +95,9 @@ const XmlName& NameTable::Search(const Utf16Unit* qualifiedName)
         entry = &InsertParsed(key, qualifiedName, length);
     }
     if (m_previous) {
-        m_previous->followers[1] = std::exchange(m_previous->followers[0], entry);
+        auto& followers = m_previous->followers;
+        std::copy_backward(std::begin(followers), std::end(followers) - 1, std::end(followers));
+        followers[0] = entry;
     }
     m_previous = entry;
     return entry->name;

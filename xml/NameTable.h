@@ -106,7 +106,7 @@ private:
         const unsigned firstBlock; // a bit for every octet of the key that is in the first block
         const KeyForm form;
         Entry* const older;              // all entries, the newest first
-        Entry* followers[2] = {nullptr}; // the parser's names that came after this one, the latest new one first
+        Entry* followers[4] = {nullptr}; // the parser's names that came after this one, the latest new one first
     };
 
     [[gnu::noinline]] const XmlName& Search(const Utf16Unit* qualifiedName);
