@@ -404,8 +404,7 @@ void CFastInfosetReader::Decoder::ReadIndexedChunk(CXmlElement& element, std::ui
         }
         return;
     }
-    const std::wstring& text =
-        RequireEntry(table.FindText(index), FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_4);
+    const std::wstring& text = RequireEntry(table.FindText(index), FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_4);
     CountIndexedText(text.size());
     m_document.AppendTextExcludingCR(&element, text);
 }

@@ -80,7 +80,8 @@ public:
     void AddAttribute(CXmlElement& element, const XmlName& name, const Utf16Unit* value)
     {
         Arena& arena = m_storage.GetArena();
-        if (Utf16Unit* const room = m_storage.KeepsTexts() ? arena.FindRoom<Utf16Unit>(LONGEST_SHORT_TEXT + 1) : nullptr) {
+        if (Utf16Unit* const room =
+                m_storage.KeepsTexts() ? arena.FindRoom<Utf16Unit>(LONGEST_SHORT_TEXT + 1) : nullptr) {
             const std::size_t length = CopyShortText(room, value);
             if (length <= LONGEST_SHORT_TEXT) {
                 arena.Take(room + length);

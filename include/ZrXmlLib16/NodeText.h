@@ -57,8 +57,8 @@ public:
     /// Takes units that lie in the memory of the document as long as that lives, and of which others know too. The text
     /// is empty before.
     void Share(DocumentStorage& storage, const unsigned short* units, std::size_t length);
-    /// The same where the storage keeps texts, for units without carriage returns, fewer than 2^32 - 1. The text has not
-    /// been touched before.
+    /// The same where the storage keeps texts, for units without carriage returns, fewer than 2^32 - 1. The text has
+    /// not been touched before.
     void Adopt(const unsigned short* units, std::size_t length) noexcept
     {
         m_units = const_cast<unsigned short*>(units);

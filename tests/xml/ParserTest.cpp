@@ -43,6 +43,17 @@ TEST(Parser, LongTextArrivesWhole)
     EXPECT_TRUE(L"a '" + expected + L"'" == ParsedTree(("<a>" + text + "</a>").c_str()));
 }
 
+TEST(Parser, ValuesOfEveryLengthArriveWhole)
+{
+    for (std::size_t length = 0; length <= 80; ++length) {
+        const std::string letters(length, 'v');
+        const std::wstring expected(length, L'v');
+        const std::string text = "<a x='" + letters + "' y='" + letters + "&#13;" + letters + "' z='" + letters + "'/>";
+        EXPECT_EQ(
+            L"a @x=" + expected + L" @y=" + expected + L"\r" + expected + L" @z=" + expected, ParsedTree(text.c_str()));
+    }
+}
+
 TEST(Parser, TellsManyNamesApart)
 {
     std::string text = "<r>";
