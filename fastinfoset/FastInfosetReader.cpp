@@ -99,28 +99,28 @@ public:
     void Run();
 
 private:
-    void ReadContent();
-    void ReadUntilRoot();
-    void StartElement(unsigned char first);
+    unsigned char FindRoot();
+    void ReadElement(unsigned char first);
+    inline void StartElement(unsigned char first);
     void EndElements(unsigned char terminator);
     void ReadNamespaceAttributes();
     void ReadAttributes(CXmlElement& element);
-    void ReadAttributeValue(CXmlElement& element, const XmlName& name);
-    void ReadIndexedValue(CXmlElement& element, const XmlName& name, std::uint64_t index);
+    inline void ReadAttributeValue(CXmlElement& element, const XmlName& name);
+    inline void ReadIndexedValue(CXmlElement& element, const XmlName& name, std::uint64_t index);
     [[gnu::noinline]] void AddLiteralValue(
         CXmlElement& element, const XmlName& name, OctetString content, bool isAdded);
     [[gnu::noinline]] void AddEncodedValue(
         CXmlElement& element, const XmlName& name, const EncodedString& literal, bool isAdded);
-    void ReadChunk(unsigned char first);
+    inline void ReadChunk(unsigned char first);
     void ReadIndexedChunk(CXmlElement& element, std::uint64_t index);
     [[gnu::noinline]] void AppendLiteral(CXmlElement& element, OctetString content, bool isAdded);
     [[gnu::noinline]] void AppendEncoded(CXmlElement& element, const EncodedString& literal, bool isAdded);
-    const Utf16Unit* DecodePlainText(OctetString content);
+    inline const Utf16Unit* DecodePlainText(OctetString content);
     std::size_t DecodeUnits(OctetString content);
 
-    const XmlName& ReadElementName(unsigned char first);
+    inline const XmlName& ReadElementName(unsigned char first);
     [[gnu::noinline]] const XmlName& ReadLongElementName(unsigned char first);
-    const XmlName& ReadAttributeName(unsigned char first);
+    inline const XmlName& ReadAttributeName(unsigned char first);
     [[gnu::noinline]] const XmlName& ReadLiteralAttributeName(unsigned char first);
     struct NameParts {
         const std::wstring& namespaceUri;
@@ -194,17 +194,16 @@ CFastInfosetReader::Decoder::Decoder(const CFastInfosetContext& context, CXmlDoc
 void CFastInfosetReader::Decoder::Run()
 {
     SkipOptionalComponents(m_input);
-    ReadUntilRoot();
-    ReadContent();
+    ReadElement(FindRoot());
 }
 
-void CFastInfosetReader::Decoder::ReadUntilRoot()
+/// @return the first octet of the root.
+unsigned char CFastInfosetReader::Decoder::FindRoot()
 {
     for (;;) {
         const unsigned char octet = m_input.Fetch();
         if (octet < NOT_AN_ELEMENT) {
-            StartElement(octet);
-            return;
+            return octet;
         }
         if (octet == PROCESSING_INSTRUCTION) {
             SkipProcessingInstruction(m_input);
@@ -220,11 +219,11 @@ void CFastInfosetReader::Decoder::ReadUntilRoot()
     }
 }
 
-// What follows the root is not looked at.
-void CFastInfosetReader::Decoder::ReadContent()
+/// Reads the root and what is in it. What follows is not looked at.
+void CFastInfosetReader::Decoder::ReadElement(unsigned char first)
 {
-    while (m_tree.HasOpenElement()) {
-        const unsigned char octet = m_input.Fetch();
+    unsigned char octet = first;
+    for (;; octet = m_input.Fetch()) {
         if (octet < NOT_AN_ELEMENT) {
             StartElement(octet);
         } else if (octet < NOT_A_CHUNK) {
@@ -239,6 +238,9 @@ void CFastInfosetReader::Decoder::ReadContent()
             SkipEntityReference(m_input, octet);
         } else {
             ThrowInvalidElement();
+        }
+        if (!m_tree.HasOpenElement()) {
+            return;
         }
     }
 }
