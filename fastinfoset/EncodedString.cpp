@@ -11,9 +11,6 @@ namespace ZrXmlLib16 {
 
 namespace {
 
-/// Text that is decoded in one go, on the stack.
-constexpr unsigned long BLOCK_LENGTH = 256;
-
 bool HasTableNumber(EncodedString::Encoding encoding)
 {
     return encoding >= EncodedString::RestrictedAlphabet;
@@ -28,6 +25,9 @@ void AppendNibbles(std::wstring& text, OctetString content, const std::wstring& 
 {
     constexpr unsigned FILLER = 0x0F;
     ReserveAmortised(text, 2 * content.length);
+    const std::size_t before = text.size();
+    text.resize(before + 2 * content.length);
+    wchar_t* output = &text[before];
     for (unsigned long i = 0; i < 2 * content.length; ++i) {
         const unsigned octet = content.octets[i / 2];
         const unsigned code = i % 2 == 0 ? octet >> 4 : octet & FILLER;
@@ -37,8 +37,9 @@ void AppendNibbles(std::wstring& text, OctetString content, const std::wstring& 
         if (code >= alphabet.size()) {
             ThrowInvalidAlphabet();
         }
-        text += alphabet[code];
+        *output++ = alphabet[code];
     }
+    text.resize(static_cast<std::size_t>(output - text.data()));
 }
 
 void AppendOctets(std::wstring& text, OctetString content, const std::wstring& alphabet)
@@ -82,7 +83,7 @@ void AppendEncodedString(std::wstring& text, const EncodedString& string, const 
     const OctetString content = string.content;
     switch (string.encoding) {
     case EncodedString::Utf8:
-        AppendUtf8(text, content);
+        text += DecodeUtf8(content.octets, content.length);
         break;
     case EncodedString::Utf16BE:
         text += CEncoder::Utf16ToUnicode(content.octets, content.length, true);
@@ -93,21 +94,6 @@ void AppendEncodedString(std::wstring& text, const EncodedString& string, const 
     case EncodedString::EncodingAlgorithm:
         EncodingAlgorithms::AppendDecoded(string.number, content.octets, content.length, text);
         break;
-    }
-}
-
-void AppendUtf8(std::wstring& text, OctetString content)
-{
-    ReserveAmortised(text, content.length);
-    if (content.length <= BLOCK_LENGTH) {
-        wchar_t block[BLOCK_LENGTH];
-        const wchar_t* const end = DecodeUtf8(content.octets, content.length, block);
-        text.append(block, static_cast<std::size_t>(end - block));
-    } else {
-        const std::size_t before = text.size();
-        text.resize(before + content.length);
-        const wchar_t* const end = DecodeUtf8(content.octets, content.length, &text[before]);
-        text.resize(static_cast<std::size_t>(end - text.data()));
     }
 }
 

@@ -25,10 +25,9 @@ EncodedString ReadEncodedStringOnBit5(OctetReader& input, unsigned char first);
 
 /// Append what the string says to a text.
 /// @param vocabulary has the restricted alphabets.
-/// @throws CZrException for an alphabet or algorithm that does not exist or does not fit the octets; the text may have
-/// got the characters before.
+/// @throws CZrException for an alphabet or algorithm that does not exist or does not fit the octets; what was appended
+/// then is undefined.
 void AppendEncodedString(std::wstring& text, const EncodedString& string, const CFIVocabulary& vocabulary);
-void AppendUtf8(std::wstring& text, OctetString content);
 /// Alphabets of 8 to 15 characters take four bits for each, those of 128 to 255 an octet.
 void AppendRestrictedAlphabet(std::wstring& text, OctetString content, const std::wstring& alphabet);
 

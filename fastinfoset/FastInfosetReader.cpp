@@ -99,36 +99,43 @@ public:
     void Run();
 
 private:
-    unsigned char FindRoot();
-    void ReadElement(unsigned char first);
-    inline void StartElement(unsigned char first);
-    void EndElements(unsigned char terminator);
-    void ReadNamespaceAttributes();
-    void ReadAttributes(CXmlElement& element);
-    inline void ReadAttributeValue(CXmlElement& element, const XmlName& name);
-    inline void ReadIndexedValue(CXmlElement& element, const XmlName& name, std::uint64_t index);
-    [[gnu::noinline]] void AddLiteralValue(
-        CXmlElement& element, const XmlName& name, OctetString content, bool isAdded);
-    [[gnu::noinline]] void AddEncodedValue(
-        CXmlElement& element, const XmlName& name, const EncodedString& literal, bool isAdded);
-    inline void ReadChunk(unsigned char first);
-    void ReadIndexedChunk(CXmlElement& element, std::uint64_t index);
-    [[gnu::noinline]] void AppendLiteral(CXmlElement& element, OctetString content, bool isAdded);
-    [[gnu::noinline]] void AppendEncoded(CXmlElement& element, const EncodedString& literal, bool isAdded);
-    inline const Utf16Unit* DecodePlainText(OctetString content);
-    std::size_t DecodeUnits(OctetString content);
-
-    inline const XmlName& ReadElementName(unsigned char first);
-    [[gnu::noinline]] const XmlName& ReadLongElementName(unsigned char first);
-    inline const XmlName& ReadAttributeName(unsigned char first);
-    [[gnu::noinline]] const XmlName& ReadLiteralAttributeName(unsigned char first);
     struct NameParts {
         const std::wstring& namespaceUri;
         const std::wstring& localName;
     };
+
+    unsigned char FindRoot();
+    void ReadElement(unsigned char first);
+    // In line is what runs for most nodes, apart what is rare.
+    inline void StartElement(unsigned char first);
+    inline const XmlName& ReadElementName(unsigned char first);
+    [[gnu::noinline]] const XmlName& ReadLongElementName(unsigned char first);
+    void ReadNamespaceAttributes();
+    void EndElements(unsigned char terminator);
     NameParts ReadLiteralName(unsigned char first);
     const std::wstring& ReadIdentifyingString(TextTable& table);
 
+    void ReadAttributes(CXmlElement& element);
+    inline const XmlName& ReadAttributeName(unsigned char first);
+    [[gnu::noinline]] const XmlName& ReadLiteralAttributeName(unsigned char first);
+    inline void ReadAttributeValue(CXmlElement& element, const XmlName& name);
+    inline void ReadIndexedValue(CXmlElement& element, const XmlName& name, std::uint64_t index);
+    inline void AddPlainValue(
+        CXmlElement& element, const XmlName& name, const Utf16Unit* units, std::size_t length, bool isAdded);
+    [[gnu::noinline]] void AddLiteralValue(
+        CXmlElement& element, const XmlName& name, OctetString content, bool isAdded);
+    [[gnu::noinline]] void AddEncodedValue(
+        CXmlElement& element, const XmlName& name, const EncodedString& literal, bool isAdded);
+
+    inline void ReadChunk(unsigned char first);
+    void ReadIndexedChunk(CXmlElement& element, std::uint64_t index);
+    inline void SetPlainText(CXmlElement& element, const Utf16Unit* units, std::size_t length, bool isAdded);
+    [[gnu::noinline]] void AppendLiteral(CXmlElement& element, OctetString content, bool isAdded);
+    [[gnu::noinline]] void AppendEncoded(CXmlElement& element, const EncodedString& literal, bool isAdded);
+
+    inline const Utf16Unit* DecodePlainText(OctetString content);
+    const Utf16Unit* StorePlainText();
+    std::size_t DecodeUnits(OctetString content);
     void AddValue(ValueTable& table, const Utf16Unit* nodeUnits, std::size_t count);
     void CountIndexedText(std::size_t length);
     [[noreturn]] void ThrowTooMuchIndexedText() const;
@@ -306,13 +313,19 @@ void CFastInfosetReader::Decoder::ReadAttributeValue(CXmlElement& element, const
     }
     const OctetString content = m_input.ReadStringOnBit5(first);
     if (const Utf16Unit* const units = DecodePlainText(content)) {
-        m_tree.AddSharedAttribute(element, name, units, content.length);
-        if (isAdded) {
-            m_vocabulary.GetAttributeValues().Add(units, content.length);
-        }
-        return;
+        AddPlainValue(element, name, units, content.length, isAdded);
+    } else {
+        AddLiteralValue(element, name, content, isAdded);
     }
-    AddLiteralValue(element, name, content, isAdded);
+}
+
+void CFastInfosetReader::Decoder::AddPlainValue(
+    CXmlElement& element, const XmlName& name, const Utf16Unit* units, std::size_t length, bool isAdded)
+{
+    m_tree.AddSharedAttribute(element, name, units, length);
+    if (isAdded) {
+        m_vocabulary.GetAttributeValues().Add(units, length);
+    }
 }
 
 void CFastInfosetReader::Decoder::AddEncodedValue(
@@ -320,6 +333,10 @@ void CFastInfosetReader::Decoder::AddEncodedValue(
 {
     m_text.clear();
     AppendEncodedString(m_text, literal, m_vocabulary.GetAlphabets());
+    if (const Utf16Unit* const units = StorePlainText()) {
+        AddPlainValue(element, name, units, m_text.size(), isAdded);
+        return;
+    }
     TreeBuilder::AddWideAttribute(element, name, m_text);
     if (isAdded) {
         m_vocabulary.GetAttributeValues().Add(m_text);
@@ -366,12 +383,18 @@ void CFastInfosetReader::Decoder::ReadChunk(unsigned char first)
     }
     const OctetString content = m_input.ReadStringOnBit7(first);
     if (const Utf16Unit* const units = m_tree.CanShareText(element) ? DecodePlainText(content) : nullptr) {
-        TreeBuilder::ShareText(element, units, content.length);
-        if (isAdded) {
-            m_vocabulary.GetCharacterChunks().Add(units, content.length);
-        }
+        SetPlainText(element, units, content.length, isAdded);
     } else {
         AppendLiteral(element, content, isAdded);
+    }
+}
+
+void CFastInfosetReader::Decoder::SetPlainText(
+    CXmlElement& element, const Utf16Unit* units, std::size_t length, bool isAdded)
+{
+    TreeBuilder::ShareText(element, units, length);
+    if (isAdded) {
+        m_vocabulary.GetCharacterChunks().Add(units, length);
     }
 }
 
@@ -379,6 +402,10 @@ void CFastInfosetReader::Decoder::AppendEncoded(CXmlElement& element, const Enco
 {
     m_text.clear();
     AppendEncodedString(m_text, literal, m_vocabulary.GetAlphabets());
+    if (const Utf16Unit* const units = m_tree.CanShareText(element) ? StorePlainText() : nullptr) {
+        SetPlainText(element, units, m_text.size(), isAdded);
+        return;
+    }
     if (isAdded) {
         m_vocabulary.GetCharacterChunks().Add(m_text);
     }
@@ -444,6 +471,22 @@ const Utf16Unit* CFastInfosetReader::Decoder::DecodePlainText(OctetString conten
         return nullptr;
     }
     arena.Take(units + content.length);
+    return units;
+}
+
+/// The same for what is in m_text.
+const Utf16Unit* CFastInfosetReader::Decoder::StorePlainText()
+{
+    DocumentStorage& storage = m_tree.GetStorage();
+    if (m_text.size() > LONGEST_SHARED_TEXT || !storage.KeepsTexts()) {
+        return nullptr;
+    }
+    Arena& arena = storage.GetArena();
+    Utf16Unit* const units = arena.FindRoom<Utf16Unit>(m_text.size());
+    if (!units || !NarrowPlainText(m_text.data(), m_text.size(), units)) {
+        return nullptr;
+    }
+    arena.Take(units + m_text.size());
     return units;
 }
 
@@ -521,9 +564,8 @@ const std::wstring& CFastInfosetReader::Decoder::ReadIdentifyingString(TextTable
         CountIndexedText(text.size());
         return text;
     }
-    std::wstring text;
-    AppendUtf8(text, m_input.ReadStringOnBit2(first));
-    return table.Add(std::move(text));
+    const OctetString content = m_input.ReadStringOnBit2(first);
+    return table.Add(DecodeUtf8(content.octets, content.length));
 }
 
 void CFastInfosetReader::Decoder::ThrowTooMuchIndexedText() const

@@ -8,7 +8,7 @@
 
 namespace ZrXmlLib16 {
 
-/// Characters that WidenPlainText reads and writes at a time.
+/// Octets that WidenPlainText reads and writes at a time.
 constexpr std::size_t PLAIN_BLOCK = 16;
 
 /// Widens text that is nothing but ASCII without NUL and carriage return, as most is.
@@ -38,6 +38,19 @@ inline bool WidenPlainText(const unsigned char* octets, std::size_t length, unsi
         output += PLAIN_BLOCK;
         length -= PLAIN_BLOCK;
     }
+}
+
+/// Narrows text that is nothing but single units without NUL and carriage return.
+/// @return false for any other text; the output then is undefined.
+inline bool NarrowPlainText(const wchar_t* text, std::size_t length, unsigned short* output) noexcept
+{
+    bool isPlain = true;
+    for (std::size_t i = 0; i < length; ++i) {
+        const auto character = static_cast<unsigned>(text[i]);
+        output[i] = static_cast<unsigned short>(character);
+        isPlain &= character - 1 < 0xFFFF && character != '\r';
+    }
+    return isPlain;
 }
 
 } // namespace ZrXmlLib16

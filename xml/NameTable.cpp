@@ -118,11 +118,13 @@ NameTable::Entry& NameTable::InsertParsed(const Key& key, const Utf16Unit* quali
 
 const XmlName& NameTable::Intern(const std::wstring& namespaceUri, const std::wstring& localName)
 {
-    m_wideKey.assign(1, static_cast<wchar_t>(namespaceUri.size()));
-    m_wideKey.append(namespaceUri).append(localName);
+    const NamespaceText& text = ShareNamespace(namespaceUri);
+    const auto address = reinterpret_cast<std::uintptr_t>(&text);
+    m_wideKey.assign({static_cast<wchar_t>(address >> 32), static_cast<wchar_t>(address)});
+    m_wideKey.append(localName);
     const Key key = MakeKey(m_wideKey.data(), m_wideKey.size() * sizeof(wchar_t), KeyForm::Wide);
     const Entry* const found = Find(key);
-    return found ? found->name : Insert(key, ShareNamespace(namespaceUri), localName).name;
+    return found ? found->name : Insert(key, text, localName).name;
 }
 
 /// New names mostly are of the namespace of the new name before.
@@ -141,13 +143,18 @@ const NamespaceText& NameTable::ShareNamespace(const std::wstring& namespaceUri)
     if (namespaceUri.empty()) {
         return NoNamespace();
     }
+    if (m_latestNamespace && m_latestNamespace->uri == namespaceUri) {
+        return *m_latestNamespace;
+    }
     const Key key = MakeKey(namespaceUri.data(), namespaceUri.size() * sizeof(wchar_t), KeyForm::Namespace);
     if (const Entry* const found = Find(key)) {
-        return found->text;
+        m_latestNamespace = &found->text;
+    } else {
+        auto text = std::make_unique<const NamespaceText>(namespaceUri);
+        Insert(key, *text, std::wstring());
+        m_latestNamespace = text.release();
     }
-    auto text = std::make_unique<const NamespaceText>(namespaceUri);
-    Insert(key, *text, std::wstring());
-    return *text.release();
+    return *m_latestNamespace;
 }
 
 NameTable::Key NameTable::MakeKey(const void* bytes, std::size_t size, KeyForm form) noexcept

@@ -80,7 +80,8 @@ public:
     const XmlName& Intern(const std::wstring& namespaceUri, const std::wstring& localName);
 
 private:
-    /// What the key of an entry is: a name as the parser delivered it, one in wide text, or a namespace in wide text.
+    /// What the key of an entry is: a name as the parser delivered it, the address of its namespace and a local name in
+    /// wide text, or a namespace in wide text.
     enum class KeyForm : unsigned char { Parser, Wide, Namespace };
     struct Key {
         const char* bytes;
@@ -126,7 +127,8 @@ private:
     std::size_t m_slotCount = 0; // a power of two
     std::size_t m_entryCount = 0;
     const Entry* m_newestParsed = nullptr;
-    std::wstring m_wideKey; // reused
+    const NamespaceText* m_latestNamespace = nullptr; // that came as wide text
+    std::wstring m_wideKey;                           // reused
 };
 
 // Stops at the first block that differs: what lies behind a shorter name must not be read, but for the rest of the

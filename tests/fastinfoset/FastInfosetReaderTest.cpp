@@ -103,6 +103,10 @@ TEST(FastInfosetReader, ReadsEveryEncodingOfText)
         // UTF-16: chunk, value; the odd octet
         {"3C 00'a' 86 01 00'x' 20 AC FF", L"a 'x€'"},
         {"7C 00'a' 78 00'x' 13 D8 3D DE 00 F0 86 00 00'x' 00 FF", L"a @x=\xD83D\xDE00 'x\xFFFD'"},
+        // carriage returns and NUL, also out of the table
+        {"3C 00'a' 96 03 00'x' 00 0D 00'y' 00 A0 FF", L"a 'xy' (a 'xy')"},
+        {"3C 00'a' 96 03 00'x' 00 00 00'y' 00 A0 FF", L"a 'x' (a 'x')"},
+        {"7C 00'a' 78 00'x' 55 00'x' 00 0D 00'y' F0 40 00 80 FF FF", L"a @x=x\ry (a @x=x\ry)"},
         // numeric alphabet, even and odd number of characters, entered into the table
         {"3C 00'a' 98 01 12 F0 FF", L"a '12'"},
         {"3C 00'a' 98 01 1C 3F 80'/' A0 FF", L"a '1.3/1.3'"},
