@@ -4,8 +4,11 @@
 
 #include "xml/Utf16Text.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
+
+#include <emmintrin.h>
 
 namespace ZrXmlLib16 {
 
@@ -53,7 +56,7 @@ struct OwnXmlName : private NamespaceText, public XmlName {
 class NameTable {
 public:
     /// Octets behind the end of a name that Intern may look at.
-    static constexpr std::size_t OVERREAD = 16;
+    static constexpr std::size_t OVERREAD = 32;
 
     explicit NameTable(DocumentStorage& owner) noexcept
         : m_owner(owner)
@@ -98,6 +101,8 @@ private:
 
         bool Is(const Key& key) const noexcept;
         bool Is(const Utf16Unit* qualifiedName) const noexcept;
+        static __m128i CompareBlocks(const char* own, const char* other) noexcept;
+        static bool SameBlocks(const char* own, const char* other, std::size_t one, std::size_t two) noexcept;
         const char* KeyBytes() const noexcept { return reinterpret_cast<const char*>(this + 1); }
 
         const NamespaceText& text; // which an entry for a namespace owns
@@ -131,30 +136,41 @@ private:
     std::wstring m_wideKey;                           // reused
 };
 
-// Stops at the first block that differs: what lies behind a shorter name must not be read, but for the rest of the
-// block.
+/// The octets that are the same in two blocks are 0xFF.
+inline __m128i NameTable::Entry::CompareBlocks(const char* own, const char* other) noexcept
+{
+    return _mm_cmpeq_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(own)),
+        _mm_loadu_si128(reinterpret_cast<const __m128i*>(other)));
+}
+
+inline bool NameTable::Entry::SameBlocks(const char* own, const char* other, std::size_t one, std::size_t two) noexcept
+{
+    const __m128i same = _mm_and_si128(CompareBlocks(own + one, other + one), CompareBlocks(own + two, other + two));
+    return _mm_movemask_epi8(same) == (1 << BLOCK) - 1;
+}
+
+// Stops at the first two blocks that differ: what lies behind a shorter name must not be read, but for the rest of
+// these.
 inline bool NameTable::Entry::Is(const Utf16Unit* qualifiedName) const noexcept
 {
-    const char* own = KeyBytes();
-    const char* other = reinterpret_cast<const char*>(qualifiedName);
-    const __m128i same = _mm_cmpeq_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(own)),
-        _mm_loadu_si128(reinterpret_cast<const __m128i*>(other)));
-    if ((~static_cast<unsigned>(_mm_movemask_epi8(same)) & firstBlock) != 0) {
+    const char* const own = KeyBytes();
+    const char* const other = reinterpret_cast<const char*>(qualifiedName);
+    const auto same = static_cast<unsigned>(_mm_movemask_epi8(CompareBlocks(own, other)));
+    if ((~same & firstBlock) != 0) {
         return false;
     }
     if (keySize <= BLOCK) {
         return true;
     }
-    std::size_t rest = keySize - BLOCK;
-    for (; rest > BLOCK; rest -= BLOCK) {
-        own += BLOCK;
-        other += BLOCK;
-        if (!SameBytes<BLOCK>(own, other)) {
+    std::size_t position = BLOCK;
+    for (; keySize - position > 2 * BLOCK; position += 2 * BLOCK) {
+        if (!SameBlocks(own, other, position, position + BLOCK)) {
             return false;
         }
     }
-    // The last block begins within the one before, unless it is whole.
-    return SameBytes<BLOCK>(own + rest, other + rest);
+    // The last blocks may begin within those before.
+    const std::size_t last = keySize - BLOCK;
+    return SameBlocks(own, other, std::min(position, last), last);
 }
 
 } // namespace ZrXmlLib16

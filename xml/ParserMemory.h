@@ -35,7 +35,7 @@ public:
     bool IsSystemExhausted() const noexcept { return m_isSystemExhausted; }
 
     /// Octets behind the end of every block that can be read, though they mean nothing.
-    static constexpr std::size_t SLACK = 16;
+    static constexpr std::size_t SLACK = 32;
 
     // The functions that the parser calls. Null when there is no memory or the limit is reached.
     static void* Allocate(std::size_t size) noexcept;

@@ -25,12 +25,6 @@ inline std::size_t Utf16Length(const Utf16Unit* text) noexcept
     return static_cast<std::size_t>(end - text);
 }
 
-/// Whether the octets at two places, which need no alignment, are the same.
-template <std::size_t Count> bool SameBytes(const void* left, const void* right) noexcept
-{
-    return std::memcmp(left, right, Count) == 0;
-}
-
 inline wchar_t ToWide(Utf16Unit unit) noexcept
 {
     return static_cast<wchar_t>(unit);
