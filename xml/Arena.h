@@ -55,10 +55,7 @@ public:
         return fits ? reinterpret_cast<T*>(m_free + padding) : nullptr;
     }
     /// Makes a piece of the room that was found last.
-    void Take(const void* pieceEnd) noexcept
-    {
-        m_free = m_free + (static_cast<const unsigned char*>(pieceEnd) - m_free);
-    }
+    void Take(void* pieceEnd) noexcept { m_free = static_cast<unsigned char*>(pieceEnd); }
 
 private:
     std::size_t PaddingOf(std::size_t alignment) const noexcept
