@@ -72,11 +72,10 @@ void CXmlObjectBase::ToJsonFile(const wchar_t* fileName, bool formatted, XmlEnco
 
 void CXmlObjectBase::FromJson_Int(const CBinaryData& bytes, const CSerializationContext& context)
 {
-    ReadConverted(bytes, context);
+    ReadConverted(DecodeUtf8Text(bytes.GetData(), bytes.GetLength()), context);
 }
 
-// The octets are let go before the wide text is read.
-void CXmlObjectBase::ReadConverted(CBinaryData bytes, const CSerializationContext& context)
+void CXmlObjectBase::ReadConverted(const WideText& text, const CSerializationContext& context)
 {
     std::optional<CFormatSettings::IgnoringNamespaces> scope;
     if (CFormatSettings::Json(context).GetSupportRoundtrip() != JsonRoundTrip_Full) {
@@ -84,8 +83,6 @@ void CXmlObjectBase::ReadConverted(CBinaryData bytes, const CSerializationContex
         scope.emplace(context);
     }
     const ConvertedTextScope converted;
-    const WideText text = DecodeUtf8Text(bytes.GetData(), bytes.GetLength());
-    bytes.Clear();
     try {
         FromXml(text.characters.get(), context);
     } catch (const CZrException& exception) {
@@ -97,26 +94,26 @@ void CXmlObjectBase::ReadConverted(CBinaryData bytes, const CSerializationContex
 void CXmlObjectBase::FromJsonFile(const wchar_t* fileName, const CSerializationContext& context)
 {
     CheckVersion();
-    ReadConverted(CXmlDocument(context).LoadJsonFile(fileName), context);
+    ReadConverted(CXmlDocument(context).ConvertJsonFile(fileName), context);
 }
 
 void CXmlObjectBase::FromJson(const char* text, const CSerializationContext& context)
 {
     CheckVersion();
-    ReadConverted(CXmlDocument(context).LoadJson(text), context);
+    ReadConverted(CXmlDocument(context).ConvertJson(text), context);
 }
 
 void CXmlObjectBase::FromJson(const wchar_t* text, const CSerializationContext& context)
 {
     CheckVersion();
-    ReadConverted(CXmlDocument(context).LoadJson(text), context);
+    ReadConverted(CXmlDocument(context).ConvertJson(text), context);
 }
 
 void CXmlObjectBase::FromJsonStream(
     const unsigned char* bytes, unsigned long length, const CSerializationContext& context)
 {
     CheckVersion();
-    ReadConverted(CXmlDocument(context).LoadJsonStream(bytes, length), context);
+    ReadConverted(CXmlDocument(context).ConvertJsonStream(bytes, length), context);
 }
 
 void CXmlObjectBase::FromJsonStream(const CBinaryData& bytes, const CSerializationContext& context)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "json/JsonNames.h"
 
-#include "core/TextEquality.h"
 #include "streams/UnicodeText.h"
 
 #include <cstdint>
@@ -65,7 +64,7 @@ void AppendName(std::wstring& name, std::wstring_view part)
 
 } // namespace
 
-JsonName::JsonName(const std::wstring& memberName, JsonRoundTrip mode)
+JsonName::JsonName(std::wstring_view memberName, JsonRoundTrip mode)
     : member(memberName)
     , kind(Kind::Element)
     , hasInstancePrefix(false)
@@ -107,21 +106,17 @@ JsonNames::JsonNames(JsonRoundTrip mode)
 {
 }
 
-const JsonName& JsonNames::Get(const std::wstring& member)
+const JsonName& JsonNames::Search(std::wstring_view member)
 {
-    if (!m_previous || !m_previous->follower || !AreEqual(m_previous->follower->name.member, member)) {
-        Entry& entry = Search(member);
-        if (m_previous) {
-            m_previous->follower = &entry;
-        }
-        m_previous = &entry;
-    } else {
-        m_previous = m_previous->follower;
+    Entry& entry = Find(member);
+    if (m_previous) {
+        m_previous->follower = &entry;
     }
-    return m_previous->name;
+    m_previous = &entry;
+    return entry.name;
 }
 
-JsonNames::Entry& JsonNames::Search(const std::wstring& member)
+JsonNames::Entry& JsonNames::Find(std::wstring_view member)
 {
     const auto found = m_index.find(member);
     if (found != m_index.end()) {

@@ -3,6 +3,7 @@
 #define JSON_JSONNAMES_H
 
 #include "ZrXmlLib16/JsonRoundTrip.h"
+#include "core/TextEquality.h"
 
 #include <deque>
 #include <map>
@@ -20,7 +21,7 @@ struct JsonName {
         Ignored // a declaration, where namespaces are dropped
     };
 
-    JsonName(const std::wstring& memberName, JsonRoundTrip mode);
+    JsonName(std::wstring_view memberName, JsonRoundTrip mode);
 
     std::wstring member;
     std::wstring xmlName; // empty for text
@@ -37,13 +38,21 @@ public:
     JsonNames(const JsonNames&) = delete;
     JsonNames& operator=(const JsonNames&) = delete;
 
-    const JsonName& Get(const std::wstring& member);
+    const JsonName& Get(std::wstring_view member)
+    {
+        Entry* const follower = m_previous ? m_previous->follower : nullptr;
+        if (!follower || !AreEqual(follower->name.member, member)) {
+            return Search(member);
+        }
+        m_previous = follower;
+        return follower->name;
+    }
     /// Whether a name so far has the prefix "xsi".
     bool UsesInstancePrefix() const { return m_usesInstancePrefix; }
 
 private:
     struct Entry {
-        Entry(const std::wstring& member, JsonRoundTrip mode)
+        Entry(std::wstring_view member, JsonRoundTrip mode)
             : name(member, mode)
         {
         }
@@ -52,7 +61,8 @@ private:
         Entry* follower = nullptr; // the one that came after this one the last time
     };
 
-    Entry& Search(const std::wstring& member);
+    const JsonName& Search(std::wstring_view member);
+    Entry& Find(std::wstring_view member);
 
     const JsonRoundTrip m_mode;
     std::deque<Entry> m_entries;

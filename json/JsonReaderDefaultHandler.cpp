@@ -1,47 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ZrXmlLib16/JsonReaderDefaultHandler.h"
 
-#include <algorithm>
+#include "json/JsonPath.h"
 
 namespace ZrXmlLib16 {
-
-namespace {
-
-bool IsNameStart(wchar_t c)
-{
-    return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z') || c == L'_';
-}
-
-bool IsNamePart(wchar_t c)
-{
-    return IsNameStart(c) || (c >= L'0' && c <= L'9') || c == L'-';
-}
-
-/// Whether a name stands in a path without quotes.
-bool IsPlainName(const std::wstring& name)
-{
-    const std::size_t start = !name.empty() && (name[0] == L'@' || name[0] == L'#') ? 1 : 0;
-    return start < name.size() && IsNameStart(name[start])
-        && std::all_of(name.begin() + static_cast<std::ptrdiff_t>(start), name.end(), IsNamePart);
-}
-
-void AppendMember(std::wstring& path, const std::wstring& name)
-{
-    if (IsPlainName(name)) {
-        path.append(1, L'.').append(name);
-        return;
-    }
-    path += L"['";
-    for (const wchar_t c : name) {
-        if (c == L'\'' || c == L'\\') {
-            path.push_back(L'\\');
-        }
-        path.push_back(c);
-    }
-    path += L"']";
-}
-
-} // namespace
 
 IJsonReaderHandler::~IJsonReaderHandler() = default;
 
@@ -164,9 +126,9 @@ std::wstring CJsonReaderDefaultHandler::GetPath() const
     for (std::size_t i = 0; i < m_depth; ++i) {
         const Frame& frame = m_frames[i];
         if (frame.isArray) {
-            path.append(1, L'[').append(std::to_wstring(frame.index)).append(1, L']');
+            AppendItemToPath(path, frame.index);
         } else if (frame.hasName) {
-            AppendMember(path, frame.name);
+            AppendMemberToPath(path, frame.name);
         }
     }
     return path;

@@ -1,27 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ZrXmlLib16/JsonReaderToXmlHandler.h"
 
-#include "ZrXmlLib16/Formatting.h"
 #include "ZrXmlLib16/IErrorPathProvider.h"
 #include "ZrXmlLib16/XmlTextWriter.h"
-#include "ZrXmlLib16/ZrValidationException.h"
-#include "json/JsonReaderMessages.h"
+#include "json/JsonTapeRecorder.h"
 #include "json/JsonTapeWriter.h"
 
 namespace ZrXmlLib16 {
-
-namespace {
-
-void BeginContainer(JsonTape& tape, JsonEvent::Kind kind, const IErrorPathProvider& pathProvider)
-{
-    const JsonName* const name = tape.BeginContainer(kind).name;
-    if (name && name->kind != JsonName::Kind::Element) {
-        throw CZrValidationException(
-            FormatString(Message::JSON_ATTRIBUTE_NOT_SIMPLE, name->member.c_str()), pathProvider.GetPath());
-    }
-}
-
-} // namespace
 
 CJsonReaderToXmlHandler::CJsonReaderToXmlHandler(
     CXmlTextWriter& writer, JsonRoundTrip mode, const IErrorPathProvider& pathProvider)
@@ -64,7 +49,7 @@ void CJsonReaderToXmlHandler::ReadNumber(const std::wstring& text)
 
 void CJsonReaderToXmlHandler::ReadStartObject()
 {
-    BeginContainer(*m_tape, JsonEvent::Kind::Object, m_pathProvider);
+    JsonTapeRecorder(*m_tape, m_pathProvider).ReadStartObject();
 }
 
 void CJsonReaderToXmlHandler::ReadEndObject()
@@ -74,7 +59,7 @@ void CJsonReaderToXmlHandler::ReadEndObject()
 
 void CJsonReaderToXmlHandler::ReadStartArray()
 {
-    BeginContainer(*m_tape, JsonEvent::Kind::Array, m_pathProvider);
+    JsonTapeRecorder(*m_tape, m_pathProvider).ReadStartArray();
 }
 
 void CJsonReaderToXmlHandler::ReadEndArray()
@@ -84,7 +69,7 @@ void CJsonReaderToXmlHandler::ReadEndArray()
 
 void CJsonReaderToXmlHandler::ReadBool(bool value)
 {
-    m_tape->AddText(value ? L"true" : L"false");
+    JsonTapeRecorder(*m_tape, m_pathProvider).ReadBool(value);
 }
 
 void CJsonReaderToXmlHandler::ReadNull()

@@ -48,18 +48,20 @@ private:
     std::size_t m_nextBlockLength; // small documents need little
 };
 
-/// The values of one JSON document in the order of the text, without an allocation for each.
+/// The values of one JSON document in the order of the text, without an allocation for each. Texts that lie in the
+/// source are borrowed, others are copied.
 ///
 /// An object or array is followed by its content; no event marks the end. Once Finish has returned, all events of the
 /// content lie before the extent of their container.
 class JsonTape {
 public:
-    explicit JsonTape(JsonRoundTrip mode);
+    /// @param source the JSON text, which outlives the tape; empty for a document that comes as events only.
+    explicit JsonTape(JsonRoundTrip mode, std::wstring_view source = std::wstring_view());
     JsonTape(const JsonTape&) = delete;
     JsonTape& operator=(const JsonTape&) = delete;
 
     /// The name of the value added next; without effect outside an object.
-    void SetName(const std::wstring& name) { m_nextName = &m_names.Get(name); }
+    void SetName(std::wstring_view name) { m_nextName = &m_names.Get(name); }
     void AddText(std::wstring_view text);
     void AddNull();
     /// @return the event that stands for the container.
@@ -74,20 +76,29 @@ public:
     const JsonEvent& operator[](std::size_t index) const { return m_events[index]; }
     /// Index of the event behind the value, its content included.
     std::size_t GetNext(std::size_t index) const;
+    /// Where the recording is, as CJsonReaderDefaultHandler::GetPath has it.
+    std::wstring GetPath() const;
+    /// About as many characters as the XML of the document has; escapes come on top.
+    std::size_t GetXmlLength() const { return m_xmlLength; }
     /// Whether the XML of this document needs the prefix "xsi".
     bool NeedsInstancePrefix() const { return m_hasNil || m_names.UsesInstancePrefix(); }
 
 private:
     JsonEvent& Add(JsonEvent::Kind kind);
     const JsonName* TakeNameInObject(JsonEvent& object);
+    std::size_t LengthOfTags(const JsonEvent& event) const;
+    bool IsInSource(std::wstring_view text) const;
 
     const JsonRoundTrip m_mode;
+    const std::wstring_view m_source;
     JsonNames m_names;
     std::vector<JsonEvent> m_events;
     JsonTexts m_texts;
     std::vector<std::size_t> m_open;
     const JsonName* m_nextName = nullptr;
     bool m_hasNil = false;
+    std::size_t m_depth = 0; // of open objects
+    std::size_t m_xmlLength = 0;
 };
 
 } // namespace ZrXmlLib16

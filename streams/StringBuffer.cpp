@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ZrXmlLib16/StringBuffer.h"
 
+#include "streams/LargePages.h"
+
 #include <algorithm>
 #include <cwchar>
 #include <utility>
@@ -64,6 +66,7 @@ void CStringBuffer::AddBlock()
 void CStringBuffer::AddBlock(unsigned long capacity)
 {
     std::unique_ptr<wchar_t[]> block(new wchar_t[capacity + 1]);
+    PreferLargePages(block.get(), (capacity + 1) * sizeof(wchar_t));
     m_earlierLengths.resize(m_blocks.size());
     m_blocks.push_back(std::move(block));
     if (!m_earlierLengths.empty()) {

@@ -2,7 +2,6 @@
 // The loaders of CXmlDocument: each fills the input buffer and has it parsed.
 #include "ZrXmlLib16/FastInfosetReader.h"
 #include "ZrXmlLib16/Formatting.h"
-#include "ZrXmlLib16/JsonTextReader.h"
 #include "ZrXmlLib16/SerializationContext.h"
 #include "ZrXmlLib16/XmlDocument.h"
 #include "ZrXmlLib16/XmlElement.h"
@@ -16,6 +15,7 @@
 #include "xml/DocumentStorage.h"
 #include "xml/ExpatReader.h"
 #include "xml/XmlMessages.h"
+#include "json/JsonToXml.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -93,27 +93,47 @@ void CXmlDocument::Load(const wchar_t* fileName)
     Parse();
 }
 
-// kept: required behaviour. Narrow JSON text is widened octet by octet, not decoded as UTF-8.
 CBinaryData CXmlDocument::LoadJson(const char* text)
+{
+    return EncodeXml(ConvertJson(text));
+}
+
+CBinaryData CXmlDocument::LoadJson(const wchar_t* text)
+{
+    return EncodeXml(ConvertJson(text));
+}
+
+CBinaryData CXmlDocument::LoadJsonStream(const unsigned char* bytes, unsigned long length)
+{
+    return EncodeXml(ConvertJsonStream(bytes, length));
+}
+
+CBinaryData CXmlDocument::LoadJsonFile(const wchar_t* fileName)
+{
+    return EncodeXml(ConvertJsonFile(fileName));
+}
+
+// kept: required behaviour. Narrow JSON text is widened octet by octet, not decoded as UTF-8.
+WideText CXmlDocument::ConvertJson(const char* text)
 {
     Cleanup();
     if (!text || !*text) {
         throw CZrException(Message::JSON_STRING_EMPTY);
     }
     const auto* const bytes = reinterpret_cast<const unsigned char*>(text);
-    return CJsonTextReader::ConvertJsonToXml(std::wstring(bytes, bytes + std::strlen(text)), *m_context);
+    return ConvertJsonToText(std::wstring(bytes, bytes + std::strlen(text)), *m_context);
 }
 
-CBinaryData CXmlDocument::LoadJson(const wchar_t* text)
+WideText CXmlDocument::ConvertJson(const wchar_t* text)
 {
     Cleanup();
     if (!text || !*text) {
         throw CZrException(Message::JSON_STRING_EMPTY);
     }
-    return CJsonTextReader::ConvertTextToXml(text, *m_context);
+    return MakeWellFormed(ConvertJsonToText(text, *m_context));
 }
 
-CBinaryData CXmlDocument::LoadJsonStream(const unsigned char* bytes, unsigned long length)
+WideText CXmlDocument::ConvertJsonStream(const unsigned char* bytes, unsigned long length)
 {
     Cleanup();
     if (!bytes || length == 0) {
@@ -122,18 +142,18 @@ CBinaryData CXmlDocument::LoadJsonStream(const unsigned char* bytes, unsigned lo
     const InputScope scope(*this);
     m_input = bytes;
     m_inputSize = length;
-    return ParseJson();
+    return ConvertJsonInput();
 }
 
-CBinaryData CXmlDocument::LoadJsonFile(const wchar_t* fileName)
+WideText CXmlDocument::ConvertJsonFile(const wchar_t* fileName)
 {
     Cleanup();
     const InputScope scope(*this);
     ReadFile(TextOrEmpty(fileName));
-    return ParseJson();
+    return ConvertJsonInput();
 }
 
-CBinaryData CXmlDocument::ParseJson()
+WideText CXmlDocument::ConvertJsonInput()
 {
     CheckInputSize();
     Decompress();
@@ -141,7 +161,7 @@ CBinaryData CXmlDocument::ParseJson()
     const unsigned long markLength = isMarked ? 3 : 0;
     const WideText text = DecodeUtf8Text(m_input + markLength, m_inputSize - markLength);
     DestroyInput();
-    return CJsonTextReader::ConvertTextToXml(text.View(), *m_context);
+    return ConvertJsonToText(text.View(), *m_context);
 }
 
 void CXmlDocument::ReadFile(const wchar_t* fileName)

@@ -5,10 +5,8 @@
 #include "ZrXmlLib16/BinaryData.h"
 #include "ZrXmlLib16/Export.h"
 
-#include <cstddef>
 #include <memory>
 #include <string>
-#include <string_view>
 
 namespace ZrXmlLib16 {
 
@@ -52,45 +50,10 @@ public:
     CJsonTextReader& operator=(const CJsonTextReader&) = delete;
 
 private:
-    friend class CXmlDocument;
-    struct Literal;
-
-    explicit CJsonTextReader(std::wstring_view text);
-    static CBinaryData ConvertTextToXml(std::wstring_view json, const CSerializationContext& context);
-    bool ReadNextChar();
-    bool ReadNextToken();
-    bool FindNextToken();
-    bool SkipComment();
-    bool ReadNextChars(wchar_t* buffer, std::size_t count);
-    void ReadValue(int depth);
-    void ReadObject(int depth);
-    void ReadMember(int depth);
-    void ReadArray(int depth);
-    void ReadLiteral(const Literal& literal);
-    void ReadNumber();
-    void RequireNextChar(const wchar_t* messageAtEnd);
-    void RequireDigit() const;
-    void SkipDigits();
-    bool IsNextChar(wchar_t first, wchar_t second) const;
-    void ReadString();
-    void ReadEscape();
-    void ReadUnicodeEscape();
-    [[noreturn]] void Fail(const wchar_t* message) const;
-    [[noreturn]] void FailAtCharacter(const wchar_t* message) const;
-    int GetLine() const;
-    int GetColumn() const;
-
     std::unique_ptr<CJsonReaderDefaultHandler> m_handler;
-    int m_maximumDepth;
     bool m_allowComments;
     std::wstring m_rootElementName;
-    const std::wstring_view m_text;
-    std::size_t m_position;
-    wchar_t m_currentCharacter;
-    bool m_endOfFile;
-    std::size_t m_line;
-    std::size_t m_lineStart; // the position that counts as column 0
-    std::wstring m_value;    // the string or number read last; reused
+    const std::wstring& m_text;
 };
 
 } // namespace ZrXmlLib16

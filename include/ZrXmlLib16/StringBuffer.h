@@ -49,7 +49,7 @@ public:
 private:
     friend class CTextStream;
     friend class CUtf8TextStream;
-
+    friend class JsonXmlStream;
     friend class TextRun;
 
     bool HasRoom(unsigned long length) const { return length <= m_currentCapacity - m_usedInCurrent; }

@@ -64,6 +64,7 @@ protected:
 
 private:
     friend class CUtf8TextStream;
+    friend class JsonXmlStream;
     friend class TextRun;
 
     CTextStream(XmlEncoding encoding, unsigned long blockSize);

@@ -16,6 +16,7 @@ namespace ZrXmlLib16 {
 class CSerializationContext;
 class CXmlElement;
 class DocumentStorage;
+struct WideText;
 
 /// A document read into a small tree: element names and namespaces, attributes and the text of each element.
 ///
@@ -107,6 +108,7 @@ public:
     const CSerializationContext& GetSerializationContext() const;
 
 private:
+    friend class CXmlObjectBase;
     friend class TreeBuilder;
 
     struct StorageDeleter {
@@ -115,7 +117,11 @@ private:
 
     void Parse();
     void ParseText();
-    CBinaryData ParseJson();
+    WideText ConvertJson(const char* text);
+    WideText ConvertJson(const wchar_t* text);
+    WideText ConvertJsonStream(const unsigned char* bytes, unsigned long length);
+    WideText ConvertJsonFile(const wchar_t* fileName);
+    WideText ConvertJsonInput();
     class InputScope;
     void AllocateInput(unsigned long size);
     void CheckInputSize() const;

@@ -27,6 +27,7 @@ class CTextStream;
 class CXmlCollectionBase;
 class CXmlElement;
 class CXmlWriter;
+struct WideText;
 
 /// Whether the file entry points write uncompressed text straight into the file instead of building the whole output
 /// first. Process-wide, false at start; set once by the application.
@@ -205,7 +206,7 @@ private:
         const CSerializationContext& context) const;
     void WriteJson(
         CTextStream& stream, bool formatted, EOLType eol, const CSerializationContext& context, bool isInMemory) const;
-    void ReadConverted(CBinaryData bytes, const CSerializationContext& context);
+    void ReadConverted(const WideText& text, const CSerializationContext& context);
     void ReadElement(const CXmlElement* element, const CSerializationContext& context);
 
     mutable NameText m_elementName;

@@ -109,6 +109,20 @@ TEST_F(Format, JsonSettingsOfTheContextAreUsed)
     EXPECT_EQ(L"{\"order\": {\"note\": \"n\"}}", m_read.ToJson(false, EOL_LF, m_context));
 }
 
+// As if the text had been UTF-8 in between.
+TEST_F(Format, WideJsonTextOfAnyUnits)
+{
+    for (const wchar_t* const note :
+        {L"\xD83D\xDE00", L"a\U0001F600", L"\xD83D", L"\xDE00\xD83D-", L"\x110000", L"\uFF01\uE000"}) {
+        const std::wstring json =
+            std::wstring(L"{\"order\": {\"@xmlns\": \"urn:order\", \"note\": \"") + note + L"\"}}";
+        TestObject expected(OrderClass());
+        expected.FromXml(CEncoder::Utf8ToUnicode(CXmlDocument().LoadJson(json.c_str())).c_str());
+        m_read.FromJson(json.c_str());
+        EXPECT_EQ(DescribeObject(expected), DescribeObject(m_read));
+    }
+}
+
 TEST_F(Format, keeps_NarrowJsonTextIsTakenOctetByOctet)
 {
     m_read.FromJson("{\"order\": {\"@xmlns\": \"urn:order\", \"note\": \"caf\xC3\xA9\"}}");

@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "ZrXmlLib16/IErrorPathProvider.h"
 #include "ZrXmlLib16/JsonReaderDefaultHandler.h"
+#include "ZrXmlLib16/JsonReaderToXmlHandler.h"
 #include "ZrXmlLib16/JsonTextReader.h"
-#include "support/TestText.h"
+#include "ZrXmlLib16/SerializationContext.h"
+#include "ZrXmlLib16/TextStream.h"
+#include "ZrXmlLib16/XmlTextWriter.h"
+#include "support/Failure.h"
 
 using namespace ZrXmlLib16;
+using TestSupport::FailureOf;
 using TestSupport::Narrow;
 
 namespace {
@@ -80,6 +85,33 @@ TEST(JsonPath, QuotesNamesThatAreNotPlain)
         handler.ReadName(test.name);
         EXPECT_EQ(Narrow(handler.GetPath()), Narrow(test.path));
     }
+}
+
+// The conversion knows the place from the values that it has collected, a reader from its handler.
+TEST(JsonPath, OfTheConversionIsThatOfAReader)
+{
+    const std::wstring json = L"{\"r\" : {\"@a\":1, \"b c\":[ 1.5e+3, [true,{\"d\\n\":null}],\n{}, \"t\\\"u\\u00e4\"],"
+                              L"\"#text\":\"x\ny\",\"@e\":[], \"f\":{\"g\":[[],[[2]]]}}}";
+    std::size_t failures = 0;
+    for (std::size_t i = 0; i < json.size(); ++i) {
+        std::wstring changed = json;
+        changed[i] = L'!';
+        for (const std::wstring& text : {json.substr(0, i), changed, changed.insert(i, L"\"[")}) {
+            const auto read = [&] {
+                CTextStream stream;
+                CXmlTextWriter writer(stream);
+                CJsonTextReader reader(text);
+                CJsonReaderToXmlHandler handler(writer, JsonRoundTrip_Full, *reader.GetErrorPathProvider());
+                reader.SetJsonReaderHandler(&handler);
+                reader.Read();
+            };
+            const auto convert = [&] { CJsonTextReader::ConvertJsonToXml(text, CSerializationContext()); };
+            const std::string expected = FailureOf(read);
+            EXPECT_EQ(FailureOf(convert), expected) << Narrow(text);
+            failures += expected.empty() ? 0 : 1;
+        }
+    }
+    EXPECT_GT(failures, 2 * json.size());
 }
 
 TEST(JsonPath, ToleratesUnbalancedEvents)
