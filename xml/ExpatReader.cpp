@@ -30,6 +30,8 @@ constexpr XML_Char NAMESPACE_SEPARATOR = L'|';
 // The parser copies what it is given, so it is given a part at a time.
 constexpr unsigned long SMALLEST_SLICE = 1ul << 22;
 constexpr unsigned long LARGEST_SLICE = 1ul << 30;
+constexpr std::size_t LARGEST_CONVERTED_SLICE = std::size_t(1) << 27; // in units
+constexpr Utf16Unit BYTE_ORDER_MARK = 0xFEFF;
 constexpr unsigned long LARGEST_EXPANSION = 1ul << 60;
 // What the parser needs whatever the document, several times.
 constexpr std::size_t MEMORY_BEYOND_EXPANSION = std::size_t(1) << 20;
@@ -51,6 +53,11 @@ std::wstring DescribeError(XML_Error error)
 {
     const XML_LChar* const text = XML_ErrorString(error);
     return text ? std::wstring(text, text + std::strlen(text)) : std::wstring();
+}
+
+Utf16Unit ToUtf16Unit(wchar_t c)
+{
+    return static_cast<Utf16Unit>(c);
 }
 
 // In octets of the input; beyond it when there is none.
@@ -124,6 +131,31 @@ void CExpatReader::Parse(bool isFinal)
     if (isFinal) {
         Cleanup();
     }
+}
+
+// The units are made right where the parser reads them.
+void CExpatReader::ParseConverted(std::wstring_view text)
+{
+    const ParserMemory::Scope scope(m_memory);
+    std::size_t markLength = 1;
+    bool isLast = false;
+    while (!isLast) {
+        const std::wstring_view slice = text.substr(0, LARGEST_CONVERTED_SLICE);
+        text.remove_prefix(slice.size());
+        isLast = text.empty();
+        const int size = static_cast<int>((markLength + slice.size()) * sizeof(Utf16Unit));
+        auto* const units = static_cast<Utf16Unit*>(XML_GetBuffer(m_parser.get(), size));
+        if (!units) {
+            ThrowFailure();
+        }
+        std::fill_n(units, markLength, BYTE_ORDER_MARK);
+        std::transform(slice.begin(), slice.end(), units + markLength, ToUtf16Unit);
+        markLength = 0;
+        if (XML_ParseBuffer(m_parser.get(), size, isLast) != XML_STATUS_OK) {
+            ThrowFailure();
+        }
+    }
+    Cleanup();
 }
 
 void CExpatReader::Cleanup()

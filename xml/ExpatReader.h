@@ -7,8 +7,10 @@
 #include "xml/TreeBuilder.h"
 #include "xml/Utf16Text.h"
 
+#include <cstddef>
 #include <exception>
 #include <memory>
+#include <string_view>
 
 struct XML_ParserStruct;
 
@@ -31,6 +33,10 @@ public:
     /// Parses the document's whole input. The parser is freed when the input is the final one, and on failure.
     /// @throws CZrException with description and line when the text is not well-formed, or what a handler threw.
     void Parse(bool isFinal);
+    /// Parses a text of the library's own, whose size the document knows, in place of the input. Frees the parser.
+    /// The low 16 bits of a character are one unit.
+    /// @throws as Parse does.
+    void ParseConverted(std::wstring_view text);
     void Cleanup();
 
 private:

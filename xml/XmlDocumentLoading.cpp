@@ -12,6 +12,7 @@
 #include "streams/FileHandle.h"
 #include "streams/LargePages.h"
 #include "streams/Utf8Decoding.h"
+#include "xml/ConvertedTextScope.h"
 #include "xml/DocumentStorage.h"
 #include "xml/ExpatReader.h"
 #include "xml/XmlMessages.h"
@@ -60,6 +61,14 @@ void CXmlDocument::LoadXml(const wchar_t* text)
     }
     const InputScope scope(*this);
     const std::size_t length = std::wcslen(text);
+    if (ConvertedTextScope::IsActive()) { // nobody looks for its lines in the input
+        m_inputSize = 2 * length + 2;
+        CheckInputSize();
+        CExpatReader reader(*this);
+        reader.CreateParser();
+        reader.ParseConverted(std::wstring_view(text, length));
+        return;
+    }
     AllocateInput(2 * length + 2);
     unsigned char* output = m_inputBuffer.get();
     *output++ = 0xFF;
