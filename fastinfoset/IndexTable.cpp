@@ -79,6 +79,7 @@ void IndexTable::Key::Place(std::uint32_t space)
 IndexTable::IndexTable()
     : m_slots(m_firstSlots)
     , m_capacity(FIRST_CAPACITY)
+    , m_entries(m_firstEntries)
     , m_taken(0)
     , m_textPosition(m_firstTexts)
     , m_textCapacity(FIRST_TEXT_CAPACITY)
@@ -91,21 +92,25 @@ std::uint32_t IndexTable::Find(Key& key) const
     const std::size_t mask = m_capacity - 1;
     for (std::size_t position = key.m_hash & mask;; position = (position + 1) & mask) {
         const Slot& slot = m_slots[position];
-        if (slot.index == 0) {
+        if (slot.entry == 0) {
             return 0;
         }
-        if (slot.hash == key.m_hash && slot.space == key.m_space && slot.textLength == key.m_text.size()
-            && AreEqual(slot.text, key.m_text.data(), slot.textLength)) {
-            key.m_text = {slot.text, slot.textLength};
+        if (slot.hash != key.m_hash) {
+            continue;
+        }
+        const Entry& entry = m_entries[slot.entry];
+        if (entry.space == key.m_space && entry.textLength == key.m_text.size()
+            && AreEqual(entry.text, key.m_text.data(), entry.textLength)) {
+            key.m_text = {entry.text, entry.textLength};
             key.m_isStored = true;
-            return slot.index;
+            return entry.index;
         }
     }
 }
 
 void IndexTable::Insert(Key& key, std::uint32_t index)
 {
-    if (2 * (m_taken + 1) > m_capacity) {
+    if (m_taken == m_capacity / 2) {
         Grow();
     }
     if (!key.m_isStored) {
@@ -114,15 +119,16 @@ void IndexTable::Insert(Key& key, std::uint32_t index)
     }
     // A text of more than 32 bits of characters is never found again.
     const auto length = static_cast<std::uint32_t>(key.m_text.size());
-    FreeSlot(key.m_hash) = {key.m_text.data(), length, key.m_hash, key.m_space, index};
     ++m_taken;
+    m_entries[m_taken] = {key.m_text.data(), length, key.m_space, index};
+    FreeSlot(key.m_hash) = {key.m_hash, m_taken};
 }
 
 IndexTable::Slot& IndexTable::FreeSlot(std::uint32_t hash)
 {
     const std::size_t mask = m_capacity - 1;
     std::size_t position = hash & mask;
-    while (m_slots[position].index != 0) {
+    while (m_slots[position].entry != 0) {
         position = (position + 1) & mask;
     }
     return m_slots[position];
@@ -132,11 +138,15 @@ void IndexTable::Grow()
 {
     const Slot* const previous = m_slots;
     const Slot* const previousEnd = m_slots + m_capacity;
+    std::unique_ptr<Entry[]> entries(new Entry[1 + m_capacity]);
     std::unique_ptr<Slot[]> grown(new Slot[2 * m_capacity]());
+    std::copy_n(m_entries + 1, m_taken, entries.get() + 1);
+    m_entries = entries.get();
+    m_grownEntries.swap(entries);
     m_slots = grown.get();
     m_capacity *= 2;
     for (const Slot* slot = previous; slot != previousEnd; ++slot) {
-        if (slot->index != 0) {
+        if (slot->entry != 0) {
             FreeSlot(slot->hash) = *slot;
         }
     }

@@ -50,12 +50,16 @@ private:
     static constexpr std::size_t FIRST_CAPACITY = 256;
     static constexpr std::size_t FIRST_TEXT_CAPACITY = 1024;
 
-    struct Slot {
+    struct Entry {
         const wchar_t* text;
         std::uint32_t textLength;
-        std::uint32_t hash;
         std::uint32_t space;
-        std::uint32_t index; // 0: the slot is free
+        std::uint32_t index;
+    };
+    /// What a search looks at first is small, because that of a large table lies in no cache.
+    struct Slot {
+        std::uint32_t hash;
+        std::uint32_t entry; // 0: the slot is free
     };
 
     Slot& FreeSlot(std::uint32_t hash);
@@ -63,13 +67,16 @@ private:
     std::wstring_view Store(std::wstring_view text);
 
     Slot* m_slots;
-    std::size_t m_capacity; // a power of two, at least twice as many as are taken
-    std::size_t m_taken;
+    std::size_t m_capacity; // a power of two
+    Entry* m_entries;       // half as many, behind one that is not used
+    std::uint32_t m_taken;
     std::unique_ptr<Slot[]> m_grownSlots;
+    std::unique_ptr<Entry[]> m_grownEntries;
     wchar_t* m_textPosition; // of the next text
     std::size_t m_textCapacity;
     std::vector<std::unique_ptr<wchar_t[]>> m_moreTexts;
     Slot m_firstSlots[FIRST_CAPACITY];
+    Entry m_firstEntries[1 + FIRST_CAPACITY / 2];
     wchar_t m_firstTexts[FIRST_TEXT_CAPACITY];
 };
 
