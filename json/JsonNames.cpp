@@ -108,12 +108,14 @@ JsonNames::JsonNames(JsonRoundTrip mode)
 
 const JsonName& JsonNames::Search(std::wstring_view member)
 {
-    Entry& entry = Find(member);
+    Entry* const earlier = m_previous ? m_previous->earlierFollower : nullptr;
+    Entry* const entry = earlier && AreEqual(earlier->name.member, member) ? earlier : &Find(member);
     if (m_previous) {
-        m_previous->follower = &entry;
+        m_previous->earlierFollower = m_previous->follower;
+        m_previous->follower = entry;
     }
-    m_previous = &entry;
-    return entry.name;
+    m_previous = entry;
+    return entry->name;
 }
 
 JsonNames::Entry& JsonNames::Find(std::wstring_view member)

@@ -31,7 +31,7 @@ struct JsonName {
 
 /// The distinct member names of one document. A name lives as long as the table and never moves.
 ///
-/// Documents repeat themselves: the name that followed last time is tried before the search.
+/// Documents repeat themselves: the names that followed the last times are tried before the search.
 class JsonNames {
 public:
     explicit JsonNames(JsonRoundTrip mode);
@@ -59,6 +59,7 @@ private:
 
         const JsonName name;
         Entry* follower = nullptr; // the one that came after this one the last time
+        Entry* earlierFollower = nullptr;
     };
 
     const JsonName& Search(std::wstring_view member);

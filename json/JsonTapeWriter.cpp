@@ -164,16 +164,14 @@ void JsonTapeWriter::OpenObject(std::size_t object)
     }
 }
 
-void JsonTapeWriter::CloseObjectsAt(std::size_t index)
+void JsonTapeWriter::CloseObject()
 {
-    while (!m_open.empty() && m_open.back().end == index) {
-        m_writer.WriteEndElement();
-        if (m_writer.GetFormat() != m_open.back().isFormatted) {
-            m_writer.SetFormat(m_open.back().isFormatted);
-            m_writer.WriteRawElement(m_empty); // the line end that the element did not write
-        }
-        m_open.pop_back();
+    m_writer.WriteEndElement();
+    if (m_writer.GetFormat() != m_open.back().isFormatted) {
+        m_writer.SetFormat(m_open.back().isFormatted);
+        m_writer.WriteRawElement(m_empty); // the line end that the element did not write
     }
+    m_open.pop_back();
 }
 
 void JsonTapeWriter::StartElement(const JsonEvent& event)

@@ -39,7 +39,13 @@ private:
     void WriteValue(const JsonEvent& event, bool isRoot);
     bool WriteTextElement(const JsonEvent& event);
     void OpenObject(std::size_t object);
-    void CloseObjectsAt(std::size_t index);
+    void CloseObjectsAt(std::size_t index)
+    {
+        while (!m_open.empty() && m_open.back().end == index) {
+            CloseObject();
+        }
+    }
+    void CloseObject();
     void StartElement(const JsonEvent& event);
     void WriteText(const JsonEvent& event);
     [[noreturn]] void FailWithoutRoot() const;
