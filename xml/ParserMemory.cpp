@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "xml/ParserMemory.h"
 
+#include "streams/LargePages.h"
+
 #include <cstdlib>
 #include <utility>
 
@@ -50,6 +52,7 @@ void* ParserMemory::Allocate(std::size_t size) noexcept
         memory.m_taken -= size;
         return nullptr;
     }
+    PreferLargePages(header, size); // of converted text the buffer holds all
     *header = {&memory, size};
     return header + 1;
 }
