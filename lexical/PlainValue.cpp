@@ -24,8 +24,8 @@ bool Equals(const unsigned short* units, std::size_t length, std::string_view te
 
 } // namespace
 
-template <class T, class Number> bool PlainValue::ReadInteger(
-    const unsigned short* units, std::size_t length, ZrVariant& value, void (ZrVariant::*store)(Number))
+template <class T, class Stored> bool PlainValue::ReadInteger(
+    const unsigned short* units, std::size_t length, ItemType type, Stored ZrVariant::Value::*member, ZrVariant& value)
 {
     constexpr std::size_t MOST_DIGITS = 18; // of any value that cannot overflow
     const bool negative = std::numeric_limits<T>::is_signed && *units == '-';
@@ -47,7 +47,7 @@ template <class T, class Number> bool PlainValue::ReadInteger(
     if (static_cast<long long>(result) != number) {
         return false;
     }
-    (value.*store)(static_cast<Number>(result));
+    value.Begin(type, member) = static_cast<Stored>(result);
     return true;
 }
 
@@ -66,7 +66,7 @@ bool PlainValue::ReadReal(const unsigned short* units, std::size_t length, ZrVar
     if (result.ec != std::errc() || result.ptr != end) {
         return false;
     }
-    value.SetR8(number);
+    value.Begin(ItemType_r8, &ZrVariant::Value::r8) = number;
     return true;
 }
 
@@ -76,7 +76,7 @@ bool PlainValue::ReadBoolean(const unsigned short* units, std::size_t length, Zr
     if (!isTrue && !Equals(units, length, "false") && !Equals(units, length, "0")) {
         return false;
     }
-    value.SetBoolean(isTrue);
+    value.Begin(ItemType_boolean, &ZrVariant::Value::boolean) = isTrue;
     return true;
 }
 
@@ -104,6 +104,16 @@ bool PlainValue::ReadDateTime(
 
 void PlainValue::ReadString(const unsigned short* units, std::size_t length, ZrVariant& value)
 {
+    if (length <= ShortText<wchar_t>::LONGEST) {
+        const ShortText<wchar_t> text(units, length);
+        value.Begin(ItemType_string, &ZrVariant::Value::string, text.Get(), length);
+    } else {
+        ReadLongString(units, length, value);
+    }
+}
+
+void PlainValue::ReadLongString(const unsigned short* units, std::size_t length, ZrVariant& value)
+{
     if (length < LEAST_FOR_LARGE_PAGES / sizeof(wchar_t)) {
         value.Begin(ItemType_string, &ZrVariant::Value::string, units, units + length);
         return;
@@ -122,21 +132,21 @@ bool PlainValue::Read(const unsigned short* units, std::size_t length, ItemType 
     }
     switch (type) {
     case ItemType_i1:
-        return ReadInteger<signed char>(units, length, value, &ZrVariant::SetI1);
+        return ReadInteger<signed char>(units, length, type, &ZrVariant::Value::i1, value);
     case ItemType_i2:
-        return ReadInteger<short>(units, length, value, &ZrVariant::SetI2);
+        return ReadInteger<short>(units, length, type, &ZrVariant::Value::i2, value);
     case ItemType_i4:
-        return ReadInteger<long>(units, length, value, &ZrVariant::SetI4);
+        return ReadInteger<long>(units, length, type, &ZrVariant::Value::i4, value);
     case ItemType_i8:
-        return ReadInteger<long long>(units, length, value, &ZrVariant::SetI8);
+        return ReadInteger<long long>(units, length, type, &ZrVariant::Value::i8, value);
     case ItemType_ui1:
-        return ReadInteger<unsigned char>(units, length, value, &ZrVariant::SetUI1);
+        return ReadInteger<unsigned char>(units, length, type, &ZrVariant::Value::ui1, value);
     case ItemType_ui2:
-        return ReadInteger<unsigned short>(units, length, value, &ZrVariant::SetUI2);
+        return ReadInteger<unsigned short>(units, length, type, &ZrVariant::Value::ui2, value);
     case ItemType_ui4:
-        return ReadInteger<unsigned long>(units, length, value, &ZrVariant::SetUI4);
+        return ReadInteger<unsigned long>(units, length, type, &ZrVariant::Value::ui4, value);
     case ItemType_ui8:
-        return ReadInteger<unsigned long long>(units, length, value, &ZrVariant::SetUI8);
+        return ReadInteger<unsigned long long>(units, length, type, &ZrVariant::Value::ui8, value);
     case ItemType_r8:
         return ReadReal(units, length, value);
     case ItemType_boolean:

@@ -2,13 +2,11 @@
 #ifndef LEXICAL_PLAINVALUE_H
 #define LEXICAL_PLAINVALUE_H
 
-#include "ZrXmlLib16/ItemType.h"
+#include "ZrXmlLib16/ZrVariant.h"
 
 #include <cstddef>
 
 namespace ZrXmlLib16 {
-
-class ZrVariant;
 
 /// Values in the plain form in which nearly all of them are written: short, without white space and needless signs.
 /// Everything else, and everything that is wrong, is left to the conversions; these give the same values for what is
@@ -22,11 +20,13 @@ public:
     /// @return false when the text is not plain; the variant is then invalid.
     static bool Read(const unsigned short* units, std::size_t length, ItemType type, ZrVariant& value);
     /// Stores the text as it is.
+    /// @param value invalid before.
     static void ReadString(const unsigned short* units, std::size_t length, ZrVariant& value);
 
 private:
-    template <class T, class Number> static bool ReadInteger(
-        const unsigned short* units, std::size_t length, ZrVariant& value, void (ZrVariant::*store)(Number));
+    [[gnu::noinline]] static void ReadLongString(const unsigned short* units, std::size_t length, ZrVariant& value);
+    template <class T, class Stored> static bool ReadInteger(const unsigned short* units, std::size_t length,
+        ItemType type, Stored ZrVariant::Value::*member, ZrVariant& value);
     static bool ReadReal(const unsigned short* units, std::size_t length, ZrVariant& value);
     static bool ReadBoolean(const unsigned short* units, std::size_t length, ZrVariant& value);
     static bool ReadDecimal(const unsigned short* units, std::size_t length, ZrVariant& value);

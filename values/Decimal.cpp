@@ -110,26 +110,32 @@ void CDecimal::ParseText(const wchar_t* text, unsigned long length)
 /// Leaves the value alone when the text is no decimal number.
 bool CDecimal::TryParse(const wchar_t* text, unsigned long length)
 {
+    constexpr std::size_t FEW = 48;
+    char few[FEW];
+    std::string many;
+    char* digits = few;
+    if (length > FEW) {
+        many.resize(length);
+        digits = many.data();
+    }
     CDigitScanner scanner(text, length);
     const bool negative = scanner.TakeSign(true);
-    const wchar_t* integerFirst = scanner.Position();
-    const std::size_t integerCount = scanner.SkipDigits();
-    const wchar_t* integerLast = scanner.Position();
+    const std::size_t integerCount = scanner.TakeDigits(digits);
     scanner.Take(L'.');
-    const wchar_t* fractionFirst = scanner.Position();
-    const std::size_t fractionCount = scanner.SkipDigits();
-    if (integerCount + fractionCount == 0 || !scanner.AtEnd()) {
+    const std::size_t count = integerCount + scanner.TakeDigits(digits + integerCount);
+    if (count == 0 || !scanner.AtEnd()) {
         return false;
     }
-    const wchar_t* fractionLast = scanner.Position();
-    while (fractionLast != fractionFirst && fractionLast[-1] == L'0') {
-        --fractionLast;
+    std::size_t first = 0;
+    while (first < integerCount && digits[first] == '0') {
+        ++first;
     }
-    integerFirst = SkipZeros(integerFirst, integerLast);
-    std::string digits(static_cast<std::size_t>((integerLast - integerFirst) + (fractionLast - fractionFirst)), '0');
-    CopyDigits(fractionFirst, fractionLast, CopyDigits(integerFirst, integerLast, digits.data()));
-    m_digits = std::move(digits);
-    m_fractionDigits = static_cast<unsigned long>(fractionLast - fractionFirst);
+    std::size_t last = count;
+    while (last > integerCount && digits[last - 1] == '0') {
+        --last;
+    }
+    m_digits.assign(digits + first, last - first);
+    m_fractionDigits = last - integerCount;
     m_negative = negative && !m_digits.empty();
     return true;
 }

@@ -30,12 +30,6 @@ inline const wchar_t* SkipZeros(const wchar_t* first, const wchar_t* last)
     return std::find_if(first, last, [](wchar_t c) { return c != L'0'; });
 }
 
-/// Copies decimal digits of a wide text into a narrow one and returns the position behind them.
-inline char* CopyDigits(const wchar_t* first, const wchar_t* last, char* digits)
-{
-    return std::transform(first, last, digits, [](wchar_t c) { return static_cast<char>(c); });
-}
-
 /// Appends decimal digits of a wide text to a narrow one.
 inline void AppendDigits(std::string& digits, const wchar_t* first, const wchar_t* last)
 {

@@ -55,13 +55,24 @@ public:
         return static_cast<std::size_t>(m_at - start);
     }
 
+    /// Takes all digits that follow as narrow characters and returns their number.
+    std::size_t TakeDigits(char* digits)
+    {
+        const wchar_t* start = m_at;
+        for (; m_at != m_end && IsDecimalDigit(*m_at); ++m_at) {
+            *digits++ = static_cast<char>(*m_at);
+        }
+        return static_cast<std::size_t>(m_at - start);
+    }
+
     /// Takes all digits that follow and returns their number; the value wraps at 2^32.
     std::size_t TakeNumber(std::uint32_t& value)
     {
         const wchar_t* start = m_at;
-        const std::size_t count = SkipDigits();
-        value = ValueOf(start, count);
-        return count;
+        for (value = 0; m_at != m_end && IsDecimalDigit(*m_at); ++m_at) {
+            value = value * 10 + static_cast<std::uint32_t>(*m_at - L'0');
+        }
+        return static_cast<std::size_t>(m_at - start);
     }
 
     /// Takes two digits; false when there are fewer.

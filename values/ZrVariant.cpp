@@ -205,7 +205,11 @@ void ZrVariant::DropValue()
     // The variant is invalid before the value goes: the destructor of an object may come back to it.
     const StorageClass storage = STORAGE_CLASSES[m_type];
     m_type = ItemType_none;
-    WithClassMembers(storage, m_value, m_value, [](auto& member, auto&) { Destroy(member); });
+    if (storage == StorageClass::String) { // most values
+        Destroy(m_value.string);
+    } else {
+        WithClassMembers(storage, m_value, m_value, [](auto& member, auto&) { Destroy(member); });
+    }
     m_value.ui8 = 0;
 }
 

@@ -213,13 +213,12 @@ private:
     /// Clears and sets the type; the value is zero.
     friend class PlainValue;
 
-    /// Whether the value has a destructor.
+    /// Whether the value has a destructor that does something: that of a date, time or duration does not.
     bool OwnsValue() const
     {
         constexpr unsigned long OWNING_TYPES = 1UL << ItemType_hexBinary | 1UL << ItemType_base64Binary
-            | 1UL << ItemType_duration | 1UL << ItemType_yearMonth | 1UL << ItemType_monthDay | 1UL << ItemType_date
-            | 1UL << ItemType_datetime | 1UL << ItemType_time | 1UL << ItemType_string | 1UL << ItemType_decimal
-            | 1UL << ItemType_integer | 1UL << ItemType_object | 1UL << ItemType_collection;
+            | 1UL << ItemType_string | 1UL << ItemType_decimal | 1UL << ItemType_integer | 1UL << ItemType_object
+            | 1UL << ItemType_collection;
         return (OWNING_TYPES >> m_type & 1) != 0 && !m_isBorrowed && !m_nil;
     }
     Value& Restart(ItemType type)
@@ -232,9 +231,9 @@ private:
     void Borrow(const std::wstring& value) noexcept;
     void CopyFrom(const ZrVariant& other);
     void MoveFrom(ZrVariant& other) noexcept;
+    /// This variant is invalid before.
     template <class T, class... Arguments> T& Begin(ItemType type, T Value::*member, const Arguments&... arguments)
     {
-        Clear();
         T* const value = new (&(m_value.*member)) T(arguments...);
         m_type = type;
         return *value;
