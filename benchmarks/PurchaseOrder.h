@@ -8,6 +8,7 @@
 #include "ZrXmlLib16/Decimal.h"
 #include "ZrXmlLib16/SmartPtr.h"
 #include "ZrXmlLib16/XmlCollection.h"
+#include "ZrXmlLib16/XmlElement.h"
 #include "ZrXmlLib16/XmlGeneratedClass.h"
 
 #include <optional>
@@ -43,9 +44,9 @@ public:
     using CXmlCollection::CXmlCollection;
 
 protected:
-    ZrXmlLib16::CSmartPtr<ZrXmlLib16::CXmlObjectBase> CreateItem(ZrXmlLib16::CXmlElement*) override
+    ZrXmlLib16::CSmartPtr<ZrXmlLib16::CXmlObjectBase> CreateItem(ZrXmlLib16::CXmlElement* element) override
     {
-        return new Item(ElementName().c_str());
+        return new Item(element->GetLocalName().c_str());
     }
 };
 
