@@ -7,7 +7,8 @@ namespace ZrXmlLib16 {
 
 namespace {
 
-thread_local int t_depth = 0;
+// Every element of a walk counts: the usual access to the variables of a shared library is a call.
+[[gnu::tls_model("initial-exec")]] thread_local int t_depth = 0;
 
 } // namespace
 

@@ -81,13 +81,33 @@ CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(
     const CSerializationContext& context, CXmlElement* parent, CXmlElement* cursor, XmlElementType type)
 {
     const CTargetNamespace targetNamespace(*this, GetClassInfo(), *parent);
-    CElementInfo** records = GetClassElementInfo();
-    const std::size_t count = CountRecords(records);
+    CElementInfo** const records = GetClassElementInfo();
     const wchar_t* const target = targetNamespace.GetText();
-    const bool ignoreUnknown = context.GetIgnoreUnknownElements();
+    if (context.GetIgnoreUnknownElements()) {
+        return ReadSequenceTolerantly(context, records, parent, cursor, target, type);
+    }
+    CXmlElement* const entry = cursor;
+    for (CElementInfo** record = records; record && *record; ++record) {
+        if (!Offer(*record, context, parent, cursor, target, type)) {
+            m_satisfied = false;
+            return entry;
+        }
+    }
+    m_satisfied = true;
+    if (type == XmlElementType_Element && cursor) {
+        ThrowChildLeftOver(*parent, *cursor);
+    }
+    return cursor;
+}
+
+/// Skips elements that no record takes. When every record had its turn, what is left is offered to the last one again.
+CXmlElement* CXmlGeneratedClass::ReadSequenceTolerantly(const CSerializationContext& context, CElementInfo** records,
+    CXmlElement* parent, CXmlElement* cursor, const wchar_t* target, XmlElementType type)
+{
+    const std::size_t count = CountRecords(records);
     // With names alone to go by, an element that no record knows can be skipped before a record mistakes it for its own
     // absence.
-    const bool skipUnknown = ignoreUnknown && type == XmlElementType_Element && IsMatchedByNameOnly();
+    const bool skipUnknown = type == XmlElementType_Element && IsMatchedByNameOnly();
     CXmlElement* const entry = cursor;
     bool lastTookSomething = false;
     std::size_t start = 0;
@@ -102,7 +122,7 @@ CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(
             }
             const bool touched = std::exchange(m_touched, false);
             while (!Offer(record, context, parent, cursor, target, type)) {
-                if (!ignoreUnknown || !cursor) {
+                if (!cursor) {
                     m_satisfied = false;
                     return entry;
                 }
@@ -114,9 +134,6 @@ CXmlElement* CXmlGeneratedClass::ProcessElementSeqFromXml(
         m_satisfied = true;
         if (type != XmlElementType_Element || !cursor) {
             return cursor;
-        }
-        if (!ignoreUnknown) {
-            ThrowChildLeftOver(*parent, *cursor);
         }
         cursor = Next(cursor);
         if (!cursor || count == 0) {

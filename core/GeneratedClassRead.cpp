@@ -25,11 +25,28 @@ using ZrXmlLib16Data::XmlElementType_Element;
 
 namespace {
 
-bool OfferAttribute(CAttributeInfo** records, const CSerializationContext& context, CXmlGeneratedClass* object,
-    CXmlAttribute* attribute, CSeenFlags& seen)
+[[noreturn]] void ThrowTooDeep(const CXmlElement& element)
 {
-    for (std::size_t index = 0; records && records[index]; ++index) {
-        if (records[index]->AttributeFromXml(context, object, attribute)) {
+    throw CZrException(Message::NESTING_TOO_DEEP, element.GetXPath());
+}
+
+[[noreturn]] void ThrowUnexpected(const CXmlAttribute& attribute)
+{
+    throw CZrValidationException(Message::ATTRIBUTE_UNEXPECTED, attribute.GetXPath());
+}
+
+bool OfferAttribute(CAttributeInfo** records, std::size_t count, const CSerializationContext& context,
+    CXmlGeneratedClass* object, CXmlAttribute* attribute, CSeenFlags& seen)
+{
+    // The name decides which record takes an attribute, so the one that took it from another object is asked first.
+    const std::size_t known = NodeAccess::FindTaker(*attribute, records);
+    if (known < count && records[known]->AttributeFromXml(context, object, attribute)) {
+        seen.Set(known);
+        return true;
+    }
+    for (std::size_t index = 0; index < count; ++index) {
+        if (index != known && records[index]->AttributeFromXml(context, object, attribute)) {
+            NodeAccess::RememberTaker(*attribute, records[index], records, index);
             seen.Set(index);
             return true;
         }
@@ -38,6 +55,49 @@ bool OfferAttribute(CAttributeInfo** records, const CSerializationContext& conte
 }
 
 } // namespace
+
+inline CXmlElement* CXmlGeneratedClass::ReadGroup(const CParentElementInfo& info, CXmlElement* element,
+    CXmlElement* cursor, const CSerializationContext& context, bool isOptional)
+{
+    switch (info.GetGroupType()) {
+    case ZrXmlLib16Data::XmlElementGroup_Sequence:
+        return ProcessElementSeqFromXml(context, element, cursor, info.GetElementType());
+    case ZrXmlLib16Data::XmlElementGroup_Choice:
+        return ProcessElementChoiceFromXml(context, element, cursor, info.GetElementType(), isOptional);
+    case ZrXmlLib16Data::XmlElementGroup_All:
+        return ProcessElementAllFromXml(context, element, cursor, info.GetElementType());
+    }
+    throw CZrException(Message::UNKNOWN_GROUP_TYPE_ON_READ);
+}
+
+inline void CXmlGeneratedClass::ReadSimpleContent(const CParentElementInfo& info, const CXmlElement* element)
+{
+    if (info.GetValueProperty() == -1 || info.GetValueType() == ItemType_none) {
+        return;
+    }
+    ZrVariant value;
+    if (info.GetStoreUnparsed()) {
+        NodeAccess::ReadString(*element, value);
+    } else {
+        NodeAccess::ParseText(*element, info.GetValueType(), CWhitespaceUtils::Rule_None, value);
+    }
+    AccessProperty(info.GetValueProperty(), false, value);
+    m_touched = true;
+}
+
+inline CXmlElement* CXmlGeneratedClass::ReadContent(const CParentElementInfo& info, CXmlElement* element,
+    CXmlElement* cursor, const CSerializationContext& context, bool isOptional)
+{
+    ProcessAttributesFromXml(context, element, info.GetRejectUnknownAttributes());
+    const INillable* nillable = NodeAccess::FindNillable(*element, *this, &info);
+    if (nillable && nillable->IsNil()) {
+        m_satisfied = true;
+        return cursor;
+    }
+    CXmlElement* rest = ReadGroup(info, element, cursor, context, isOptional);
+    ReadSimpleContent(info, element);
+    return rest;
+}
 
 CXmlElement* CXmlGeneratedClass::FromXml_Int(
     CXmlElement* element, CXmlElement* firstChild, const CSerializationContext& context, bool isOptional)
@@ -53,9 +113,9 @@ CXmlElement* CXmlGeneratedClass::FromXml_Int(
         }
         const CDepthGuard depth;
         if (depth.IsTooDeep(context)) {
-            throw CZrException(Message::NESTING_TOO_DEEP, element->GetXPath());
+            ThrowTooDeep(*element);
         }
-        if (!HasElementName(element->GetLocalName())) {
+        if (!HasElementName(NodeAccess::GetObjectName(*element))) {
             SetElementName(element->GetLocalName().c_str());
         }
         return ReadContent(info, element, firstChild, context, isOptional);
@@ -69,77 +129,38 @@ CXmlElement* CXmlGeneratedClass::FromXml_Int(
     }
 }
 
-CXmlElement* CXmlGeneratedClass::ReadContent(const CParentElementInfo& info, CXmlElement* element, CXmlElement* cursor,
-    const CSerializationContext& context, bool isOptional)
-{
-    ProcessAttributesFromXml(context, element, info.GetRejectUnknownAttributes());
-    const INillable* nillable = NodeAccess::FindNillable(*element, *this, &info);
-    if (nillable && nillable->IsNil()) {
-        m_satisfied = true;
-        return cursor;
-    }
-    CXmlElement* rest = ReadGroup(info, element, cursor, context, isOptional);
-    ReadSimpleContent(info, element);
-    return rest;
-}
-
-CXmlElement* CXmlGeneratedClass::ReadGroup(const CParentElementInfo& info, CXmlElement* element, CXmlElement* cursor,
-    const CSerializationContext& context, bool isOptional)
-{
-    switch (info.GetGroupType()) {
-    case ZrXmlLib16Data::XmlElementGroup_Sequence:
-        return ProcessElementSeqFromXml(context, element, cursor, info.GetElementType());
-    case ZrXmlLib16Data::XmlElementGroup_Choice:
-        return ProcessElementChoiceFromXml(context, element, cursor, info.GetElementType(), isOptional);
-    case ZrXmlLib16Data::XmlElementGroup_All:
-        return ProcessElementAllFromXml(context, element, cursor, info.GetElementType());
-    }
-    throw CZrException(Message::UNKNOWN_GROUP_TYPE_ON_READ);
-}
-
-void CXmlGeneratedClass::ReadSimpleContent(const CParentElementInfo& info, const CXmlElement* element)
-{
-    if (info.GetValueProperty() == -1 || info.GetValueType() == ItemType_none) {
-        return;
-    }
-    ZrVariant value;
-    if (info.GetStoreUnparsed()) {
-        NodeAccess::ReadString(*element, value);
-    } else {
-        NodeAccess::ParseText(*element, info.GetValueType(), CWhitespaceUtils::Rule_None, value);
-    }
-    AccessProperty(info.GetValueProperty(), false, value);
-    m_touched = true;
-}
-
 void CXmlGeneratedClass::ProcessAttributesFromXml(
     const CSerializationContext& context, CXmlElement* element, bool rejectUnknown)
 {
-    CAttributeInfo** records = GetClassAttributeInfo();
+    CAttributeInfo** const records = GetClassAttributeInfo();
     const std::size_t count = CountRecords(records);
     CSeenFlags seen(count);
-    const bool ownsElement = GetClassInfo()->GetElementType() == XmlElementType_Element;
     for (CXmlAttribute* attribute = NodeAccess::GetFirstAttribute(*element); attribute;
          attribute = NodeAccess::GetNextAttribute(*element, *attribute)) {
         if (IsDeclaration(context, *attribute)) {
             continue;
         }
         if (attribute->IsNilAttribute()) {
-            INillable* nillable = NodeAccess::FindNillable(*element, *this, GetClassInfo());
-            if (nillable) {
-                nillable->SetNil(ParseNil(*attribute));
-                m_touched = true;
-            } else if (ownsElement) {
-                throw CZrValidationException(Message::NIL_ON_NON_NILLABLE, element->GetXPath());
-            }
-        } else if (OfferAttribute(records, context, this, attribute, seen)) {
+            ReadNilAttribute(*element, *attribute);
+        } else if (OfferAttribute(records, count, context, this, attribute, seen)) {
             m_touched = true;
         } else if (rejectUnknown && !context.GetIgnoreUnknownAttributes()) {
-            throw CZrValidationException(Message::ATTRIBUTE_UNEXPECTED, attribute->GetXPath());
+            ThrowUnexpected(*attribute);
         }
     }
     for (std::size_t index = 0; index < count; ++index) {
         records[index]->Validate(context, seen.Test(index));
+    }
+}
+
+void CXmlGeneratedClass::ReadNilAttribute(const CXmlElement& element, const CXmlAttribute& attribute)
+{
+    const CParentElementInfo* const info = GetClassInfo();
+    if (INillable* const nillable = NodeAccess::FindNillable(element, *this, info)) {
+        nillable->SetNil(ParseNil(attribute));
+        m_touched = true;
+    } else if (info->GetElementType() == XmlElementType_Element) {
+        throw CZrValidationException(Message::NIL_ON_NON_NILLABLE, element.GetXPath());
     }
 }
 

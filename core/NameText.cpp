@@ -10,7 +10,7 @@
 namespace ZrXmlLib16 {
 
 NameText::NameText(const NameText& other)
-    : m_length(0)
+    : NameText()
 {
     *this = other;
 }
@@ -25,7 +25,7 @@ NameText& NameText::operator=(const NameText& other)
         other.CopyTo(text);
         Set(text.c_str());
     } else {
-        std::copy_n(other.m_units, other.m_length, m_units);
+        std::memcpy(m_units, other.m_units, sizeof(m_units));
         m_length = other.m_length;
     }
     return *this;
@@ -38,6 +38,8 @@ void NameText::Set(const wchar_t* text)
         m_wide = text;
         return;
     }
+    m_length = 0;
+    std::memset(m_units, 0, sizeof(m_units));
     unsigned char length = 0;
     while (text[length] != 0) {
         if (length == CAPACITY || static_cast<unsigned int>(text[length]) > 0xFFFF) {

@@ -4,7 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
+#include <memory>
 
 namespace ZrXmlLib16 {
 
@@ -12,29 +12,24 @@ namespace ZrXmlLib16 {
 class CSeenFlags {
 public:
     explicit CSeenFlags(std::size_t count)
-        : m_few(0)
     {
-        if (count > FEW) {
-            m_many.resize(count);
+        if (count > BITS) {
+            m_many.reset(new std::uint64_t[count / BITS + 1]());
+            m_words = m_many.get();
         }
     }
+    CSeenFlags(const CSeenFlags&) = delete;
+    CSeenFlags& operator=(const CSeenFlags&) = delete;
 
-    bool Test(std::size_t index) const { return m_many.empty() ? ((m_few >> index) & 1U) != 0 : m_many[index]; }
-
-    void Set(std::size_t index)
-    {
-        if (m_many.empty()) {
-            m_few |= std::uint64_t(1) << index;
-        } else {
-            m_many[index] = true;
-        }
-    }
+    bool Test(std::size_t index) const { return ((m_words[index / BITS] >> index % BITS) & 1U) != 0; }
+    void Set(std::size_t index) { m_words[index / BITS] |= std::uint64_t(1) << index % BITS; }
 
 private:
-    static constexpr std::size_t FEW = 64;
+    static constexpr std::size_t BITS = 64;
 
-    std::uint64_t m_few;
-    std::vector<bool> m_many;
+    std::uint64_t m_few = 0;
+    std::uint64_t* m_words = &m_few;
+    std::unique_ptr<std::uint64_t[]> m_many;
 };
 
 /// Number of records in a null-terminated array; a null array has none.

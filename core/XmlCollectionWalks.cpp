@@ -45,7 +45,7 @@ CXmlElement* CXmlCollection::ReadElements(CXmlElement* cursor, const CSerializat
     const CXmlElement* previous = nullptr;
     const auto isItem = [&] {
         return (previous && NodeAccess::SharesName(*cursor, *previous))
-            || (HasElementName(cursor->GetLocalName())
+            || (HasElementName(NodeAccess::GetObjectName(*cursor))
                 && DoesElementNameMatch(context, cursor, cursor->GetLocalName(), Namespace()));
     };
     while (cursor && isItem()) {

@@ -10,10 +10,20 @@
 #include "core/TextArgument.h"
 #include "core/TextComparison.h"
 #include "metadata/MetadataMessages.h"
+#include "xml/NodeAccess.h"
 
 namespace ZrXmlLib16Data {
 
 using namespace ZrXmlLib16;
+
+namespace {
+
+[[noreturn]] void ThrowSetFailed(const CZrException& exception, const CXmlAttribute& source)
+{
+    throw CZrValidationException(Message::PROPERTY_SET_FAILED, source.GetXPath(), exception);
+}
+
+} // namespace
 
 CAttributeInfo::CAttributeInfo(
     const wchar_t* name, const wchar_t* namespaceUri, int propertyId, bool optional, const wchar_t* defaultValue)
@@ -29,13 +39,17 @@ CAttributeInfo::~CAttributeInfo() = default;
 
 bool CAttributeInfo::IsThisAttribute(const CSerializationContext& context, CXmlAttribute* attribute) const
 {
-    return attribute && SameText(attribute->GetLocalName(), m_attributeName)
+    if (!attribute || NodeAccess::IsTaker(*attribute, this)) {
+        return attribute != nullptr;
+    }
+    return SameText(attribute->GetLocalName(), m_attributeName)
         && (context.GetIgnoreNamespaces() || SameText(attribute->GetNamespaceURI(), m_namespace));
 }
 
 bool CAttributeInfo::HasName(const CXmlAttribute& attribute) const
 {
-    return SameText(attribute.GetLocalName(), m_attributeName) && SameText(attribute.GetNamespaceURI(), m_namespace);
+    return NodeAccess::IsTaker(attribute, this)
+        || (SameText(attribute.GetLocalName(), m_attributeName) && SameText(attribute.GetNamespaceURI(), m_namespace));
 }
 
 bool CAttributeInfo::TestNamespace(
@@ -76,7 +90,7 @@ void CAttributeInfo::InvokePropertySet(CXmlGeneratedClass* object, ZrVariant& va
     try {
         object->AccessProperty(m_propertyId, false, value);
     } catch (const CZrException& exception) {
-        throw CZrValidationException(Message::PROPERTY_SET_FAILED, source.GetXPath(), exception);
+        ThrowSetFailed(exception, source);
     }
 }
 

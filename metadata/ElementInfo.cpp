@@ -13,6 +13,7 @@
 #include "lexical/FacetCheck.h"
 #include "metadata/MetadataMessages.h"
 #include "metadata/NamespaceRule.h"
+#include "metadata/RecordAccess.h"
 #include "xml/NodeAccess.h"
 
 #include <cwchar>
@@ -194,12 +195,13 @@ void CElementInfo::InvokePropertyGet(CXmlGeneratedClass* object, ZrVariant& valu
 
 void CElementInfo::InvokePropertySet(CXmlGeneratedClass* object, ZrVariant& value, const CXmlElement& source) const
 {
-    try {
-        object->AccessProperty(m_propertyId, false, value);
-    } catch (CZrException& exception) {
-        ErrorPosition::Attach(exception, source);
-        throw CZrValidationException(Message::PROPERTY_SET_FAILED, source.GetXPath(), exception);
-    }
+    CRecordAccess::SetProperty(*this, object, value, source);
+}
+
+void CRecordAccess::ThrowSetFailed(CZrException& exception, const CXmlElement& source)
+{
+    ErrorPosition::Attach(exception, source);
+    throw CZrValidationException(Message::PROPERTY_SET_FAILED, source.GetXPath(), exception);
 }
 
 void CElementInfo::ReadProperty(const CXmlGeneratedClass* object, ZrVariant& value) const

@@ -138,20 +138,7 @@ bool CElementInfo::ReadNilAttributes(const CSerializationContext& context, const
 void CElementInfo::ElementFromXmlPrim(
     const CSerializationContext& context, CXmlGeneratedClass* object, CXmlElement** current)
 {
-    CXmlElement* element = *current;
-    NodeAccess::PrefetchSibling(*element);
-    // kept: required behaviour. A nil element neither sets nor clears the member, and facets are not checked on
-    // reading.
-    if (!ReadNilAttributes(context, *element)) {
-        ZrVariant value;
-        if (NodeAccess::HasText(*element)) {
-            NodeAccess::ParseText(*element, m_itemType, m_whitespaceRule, value);
-        } else {
-            value.FromString(m_defaultValue, m_itemType, m_whitespaceRule);
-        }
-        InvokePropertySet(object, value, *element);
-    }
-    *current = element->GetNextSiblingElement();
+    CRecordAccess::ReadPrim(*this, context, object, current);
 }
 
 void CElementInfo::ElementFromXmlEnum(

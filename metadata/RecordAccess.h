@@ -5,8 +5,11 @@
 #include "ZrXmlLib16/Element.h"
 #include "ZrXmlLib16/XmlGeneratedClass.h"
 #include "ZrXmlLib16/XmlWriter.h"
+#include "ZrXmlLib16/ZrException.h"
+#include "ZrXmlLib16/ZrVariant.h"
 #include "ZrXmlLib16Data/ElementInfo.h"
 #include "metadata/NamespaceRule.h"
+#include "xml/NodeAccess.h"
 
 namespace ZrXmlLib16Data {
 
@@ -40,10 +43,25 @@ public:
         record.AttributesToXml_Int(child, writer, context);
     }
 
-    static void ReadPrim(CElementInfo& record, const ZrXmlLib16::CSerializationContext& context,
-        ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlElement** current)
+    [[gnu::always_inline]] static void ReadPrim(const CElementInfo& record,
+        const ZrXmlLib16::CSerializationContext& context, ZrXmlLib16::CXmlGeneratedClass* object,
+        ZrXmlLib16::CXmlElement** current)
     {
-        record.ElementFromXmlPrim(context, object, current);
+        using ZrXmlLib16::NodeAccess;
+        ZrXmlLib16::CXmlElement* const element = *current;
+        NodeAccess::PrefetchSibling(*element);
+        // kept: required behaviour. A nil element neither sets nor clears the member, and facets are not checked on
+        // reading.
+        if (!NodeAccess::GetFirstAttribute(*element) || !record.ReadNilAttributes(context, *element)) {
+            ZrXmlLib16::ZrVariant value;
+            if (NodeAccess::HasText(*element)) {
+                NodeAccess::ParseText(*element, record.m_itemType, record.m_whitespaceRule, value);
+            } else {
+                value.FromString(record.m_defaultValue, record.m_itemType, record.m_whitespaceRule);
+            }
+            SetProperty(record, object, value, *element);
+        }
+        *current = element->GetNextSiblingElement();
     }
     static void ReadEnum(CElementInfo& record, const ZrXmlLib16::CSerializationContext& context,
         ZrXmlLib16::CXmlGeneratedClass* object, ZrXmlLib16::CXmlElement** current)
@@ -62,11 +80,16 @@ public:
     {
         record.InvokePropertyGet(object, value);
     }
-    static void SetProperty(const CElementInfo& record, ZrXmlLib16::CXmlGeneratedClass* object,
+    [[gnu::always_inline]] static void SetProperty(const CElementInfo& record, ZrXmlLib16::CXmlGeneratedClass* object,
         ZrXmlLib16::ZrVariant& value, const ZrXmlLib16::CXmlElement& source)
     {
-        record.InvokePropertySet(object, value, source);
+        try {
+            object->AccessProperty(record.m_propertyId, false, value);
+        } catch (ZrXmlLib16::CZrException& exception) {
+            ThrowSetFailed(exception, source);
+        }
     }
+    [[noreturn]] static void ThrowSetFailed(ZrXmlLib16::CZrException& exception, const ZrXmlLib16::CXmlElement& source);
 
     /// The results of an object's last read; objects that are no generated classes always count as satisfied and
     /// touched.

@@ -66,12 +66,6 @@ bool PrimKind::Write(const CElementInfo& record, const WriteCall& call)
     return CRecordAccess::WritePrim(record, call.context, call.object, call.writer);
 }
 
-bool PrimKind::Read(CElementInfo& record, const Data&, const ReadCall& call, Occurrence)
-{
-    ReadingAt(**call.current, [&] { CRecordAccess::ReadPrim(record, call.context, call.object, call.current); });
-    return true;
-}
-
 bool EnumKind::Write(const CElementInfo& record, const WriteCall& call)
 {
     return CRecordAccess::WriteEnum(record, call.context, call.object, call.writer);

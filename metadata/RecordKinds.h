@@ -3,6 +3,8 @@
 #define METADATA_RECORDKINDS_H
 
 #include "ZrXmlLib16Data/ElementInfo.h"
+#include "core/ErrorPosition.h"
+#include "metadata/RecordAccess.h"
 
 namespace ZrXmlLib16Data {
 
@@ -35,7 +37,18 @@ struct PrimKind {
     typedef NoData Data;
     static const wchar_t* const MISSING;
     static bool Write(const CElementInfo& record, const WriteCall& call);
-    static bool Read(CElementInfo& record, const Data& data, const ReadCall& call, Occurrence occurrence);
+    /// In line: most elements are read here.
+    [[gnu::always_inline]] static bool Read(CElementInfo& record, const Data&, const ReadCall& call, Occurrence)
+    {
+        const ZrXmlLib16::CXmlElement& element = **call.current;
+        try {
+            CRecordAccess::ReadPrim(record, call.context, call.object, call.current);
+        } catch (ZrXmlLib16::CZrException& exception) {
+            ZrXmlLib16::ErrorPosition::Attach(exception, element);
+            throw;
+        }
+        return true;
+    }
 };
 
 struct EnumKind {

@@ -12,12 +12,25 @@
 #include "metadata/MetadataMessages.h"
 #include "metadata/RecordAccess.h"
 #include "metadata/RecordKinds.h"
+#include "xml/NodeAccess.h"
 
 #include <type_traits>
 
 // The rules of occurrence and group, written once over the kinds of content. The named record classes only say which
 // apply to them.
 namespace ZrXmlLib16Data {
+
+/// Whether a record that goes by names alone has matched the name of the element before in this walk.
+inline bool IsKnown(const CElementInfo& record, const ReadCall& call)
+{
+    return *call.current && ZrXmlLib16::NodeAccess::IsKnownAs(**call.current, &record);
+}
+
+template <class Kind> bool Claims(const CElementInfo& record, const ReadCall& call)
+{
+    constexpr bool isNamed = !std::is_same<Kind, UntpdKind>::value;
+    return (isNamed && IsKnown(record, call)) || record.Claims(call.context, *call.current);
+}
 
 template <class Kind> bool WriteOptional(const CElementInfo& record, const WriteCall& call)
 {
@@ -71,7 +84,7 @@ bool ReadOptionalInSequence(CElementInfo& record, const typename Kind::Data& dat
             return ReadInline<Kind>(record, data, call, Occurrence::Optional, XmlElementGroup_Sequence);
         }
     }
-    if (record.Claims(call.context, *call.current)) {
+    if (Claims<Kind>(record, call)) {
         Kind::Read(record, data, call, Occurrence::Optional);
     }
     return true;
@@ -87,7 +100,7 @@ bool ReadMandatoryInSequence(CElementInfo& record, const typename Kind::Data& da
             return ReadInline<Kind>(record, data, call, Occurrence::Mandatory, XmlElementGroup_Sequence);
         }
     }
-    while (!record.IsThisElement(call.context, *call.current)) {
+    while (!IsKnown(record, call) && !record.IsThisElement(call.context, *call.current)) {
         const bool softly = call.elementType != XmlElementType_Element;
         if (!softly && call.context.GetIgnoreMissingMandatoryElements()) {
             return true;
@@ -113,7 +126,7 @@ template <class Kind> bool ReadIfPresent(CElementInfo& record, const typename Ki
             return ReadInline<Kind>(record, data, call, occurrence, group);
         }
     }
-    return record.Claims(call.context, *call.current) && Kind::Read(record, data, call, occurrence);
+    return Claims<Kind>(record, call) && Kind::Read(record, data, call, occurrence);
 }
 
 /// The answer of a mandatory member of an all group after all children were offered.

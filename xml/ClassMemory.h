@@ -35,19 +35,14 @@ public:
     Entry& Find(const std::type_info& type, const void* classInfo)
     {
         constexpr std::uint64_t HASH_MULTIPLIER = 0x9E3779B97F4A7C15u;
-        if (m_last && m_last->type == &type && m_last->classInfo == classInfo) {
-            return *m_last;
-        }
         const std::uint64_t key = reinterpret_cast<std::uintptr_t>(&type) ^ reinterpret_cast<std::uintptr_t>(classInfo);
         Entry*& bucket = m_buckets[(key * HASH_MULTIPLIER) >> (64 - INDEX_BITS)];
         for (Entry* entry = bucket; entry; entry = entry->next) {
             if (entry->type == &type && entry->classInfo == classInfo) {
-                m_last = entry;
                 return *entry;
             }
         }
         bucket = new (m_arena.Allocate(sizeof(Entry), alignof(Entry))) Entry{&type, classInfo, bucket};
-        m_last = bucket;
         return *bucket;
     }
 
@@ -57,7 +52,6 @@ private:
     static constexpr unsigned INDEX_BITS = 5;
 
     Arena& m_arena;
-    Entry* m_last = nullptr; // the one found last
     Entry* m_buckets[std::size_t(1) << INDEX_BITS] = {};
 };
 

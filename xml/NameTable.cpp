@@ -53,6 +53,7 @@ XmlName::XmlName(const NamespaceText& text, std::wstring localPart, DocumentStor
     , isLong(namespaceUri.size() + localName.size() > ORDINARY_LENGTH)
     , storage(nameStorage)
 {
+    objectName.Set(localName.c_str());
 }
 
 NameTable::Entry::Entry(const Key& key, const NamespaceText& namespaceText, std::wstring localName,

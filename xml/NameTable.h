@@ -2,6 +2,8 @@
 #ifndef XML_NAMETABLE_H
 #define XML_NAMETABLE_H
 
+#include "ZrXmlLib16/NameText.h"
+#include "xml/ClassMemory.h"
 #include "xml/Utf16Text.h"
 
 #include <algorithm>
@@ -30,13 +32,29 @@ struct XmlName {
 
     const std::wstring& namespaceUri;
     const std::wstring localName;
+    NameText objectName; ///< the local name in the form in which objects keep theirs
     bool isNamespaceAttribute;
     bool isNilAttribute;
     bool isLong; ///< more than 128 characters
     DocumentStorage* storage;
-    // The record that was found to have this name and namespace last, in which walk of the document.
-    mutable const void* matchingRecord = nullptr;
-    mutable unsigned long matchingWalk = 0;
+
+    /// @{
+    /// What a walk over the document has found out about the name; holds for the walk of that number.
+    struct Element {
+        const void* record = nullptr; ///< that has this name and namespace; null: not known
+        unsigned long walk = 0;
+    };
+    struct Attribute {
+        const void* record = nullptr;  ///< that takes the attribute; null: not known
+        const void* records = nullptr; ///< the list it is in
+        std::size_t index = 0;         ///< and where
+        unsigned long walk = 0;
+    };
+    mutable Element element;
+    mutable Attribute attribute;
+    /// @}
+    /// The class of the object that was read from such an element last; null when there was none.
+    mutable ClassMemory::Entry* objectClass = nullptr;
 };
 
 /// The name of a node that was built by hand.

@@ -8,19 +8,17 @@
 
 namespace ZrXmlLib16 {
 
-namespace {
-
-bool KeepsText(const NodeText& text, CWhitespaceUtils::WhitespaceRule rule)
+ClassMemory::Entry* NodeAccess::LookUpClass(const XmlName& name, const std::type_info& type, const void* classInfo)
 {
-    return rule == CWhitespaceUtils::Rule_None || (rule == CWhitespaceUtils::Rule_Preserve && !text.ContainsCR());
+    if (name.storage) {
+        name.objectClass = &name.storage->GetClassMemory().Find(type, classInfo);
+    }
+    return name.objectClass;
 }
 
-} // namespace
-
-ClassMemory* NodeAccess::GetClassMemory(const CXmlElement& element)
+Arena& NodeAccess::GetArena(const CXmlElement& element)
 {
-    DocumentStorage* const storage = element.GetStorage();
-    return storage ? &storage->GetClassMemory() : nullptr;
+    return element.GetStorage()->GetArena();
 }
 
 void NodeAccess::BeginWalk(const CXmlElement& element)
@@ -30,43 +28,40 @@ void NodeAccess::BeginWalk(const CXmlElement& element)
     }
 }
 
-bool NodeAccess::IsKnownAs(const CXmlElement& element, const void* record)
-{
-    const XmlName& name = *element.m_name;
-    return name.matchingRecord == record && name.matchingWalk == name.storage->GetWalk();
-}
-
 void NodeAccess::KnowAs(const CXmlElement& element, const void* record)
 {
     const XmlName& name = *element.m_name;
     if (name.storage) {
-        name.matchingRecord = record;
-        name.matchingWalk = name.storage->GetWalk();
+        name.element = {record, name.storage->GetWalk()};
+    }
+}
+
+void NodeAccess::RememberTaker(
+    const CXmlAttribute& attribute, const void* record, const void* records, std::size_t index)
+{
+    const XmlName& name = *attribute.m_name;
+    if (name.storage) {
+        name.attribute = {record, records, index, name.storage->GetWalk()};
     }
 }
 
 INillable* NodeAccess::FindNillable(const CXmlElement& element, CXmlGeneratedClass& object, const void* classInfo)
 {
-    DocumentStorage* const storage = element.GetStorage();
-    if (!storage) {
+    ClassMemory::Entry* const known = FindClass(element, typeid(object), classInfo);
+    if (!known) {
         return dynamic_cast<INillable*>(&object);
     }
-    ClassMemory::Entry& known = storage->GetClassMemory().Find(typeid(object), classInfo);
-    if (!known.knowsNillable) {
-        known.nillable = CNillablePlace(object);
-        known.knowsNillable = true;
+    if (!known->knowsNillable) {
+        known->nillable = CNillablePlace(object);
+        known->knowsNillable = true;
     }
-    return known.nillable.In(object);
+    return known->nillable.In(object);
 }
 
-void NodeAccess::Parse(const NodeText& text, DocumentStorage* storage, ItemType type,
+void NodeAccess::ParseLonger(const NodeText& text, DocumentStorage* storage, ItemType type,
     CWhitespaceUtils::WhitespaceRule rule, ZrVariant& result)
 {
-    if (type == ItemType_string && KeepsText(text, rule)) {
-        text.ReadString(result);
-    } else if (!text.ReadPlain(type, result)) {
-        result.FromString(text.Borrow(storage), type, rule);
-    }
+    result.FromString(text.Borrow(storage), type, rule);
 }
 
 } // namespace ZrXmlLib16

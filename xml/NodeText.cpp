@@ -85,7 +85,8 @@ void NodeText::AppendWide(DocumentStorage* storage, const wchar_t* text, std::si
 
 void NodeText::AppendCompact(DocumentStorage* storage, const wchar_t* text, std::size_t length)
 {
-    unsigned short* const room = storage && !IsWide() && IsUtf16(text, length) ? MakeRoom(*storage, length) : nullptr;
+    unsigned short* const room =
+        storage && !IsWide() && IsUtf16WithoutCR(text, length) ? MakeRoom(*storage, length) : nullptr;
     if (!room) {
         AppendWide(storage, text, length);
         return;
@@ -103,23 +104,15 @@ void NodeText::AssignParsed(DocumentStorage& storage, const unsigned short* unit
         AssignUtf16(GetForms(&storage).text, units, length);
         return;
     }
-    m_units =
+    auto* const own =
         static_cast<unsigned short*>(storage.GetArena().Allocate(length * sizeof(*m_units), alignof(unsigned short)));
-    m_capacity = static_cast<std::uint32_t>(length);
-    m_length = m_capacity;
-    std::copy_n(units, length, m_units);
-}
-
-// What is appended later comes behind the units or makes a copy of them: the others never see it.
-void NodeText::Share(DocumentStorage& storage, const unsigned short* units, std::size_t length)
-{
-    if (!storage.KeepsTexts() || length > LONGEST_UNITS) {
+    if (CopyExcludingCR(own, units, length) != own + length) {
         AssignUtf16(GetForms(&storage).text, units, length);
         return;
     }
-    m_units = const_cast<unsigned short*>(units);
-    m_length = static_cast<std::uint32_t>(length);
-    m_capacity = m_length;
+    m_units = own;
+    m_capacity = static_cast<std::uint32_t>(length);
+    m_length = m_capacity;
 }
 
 NodeForms& NodeText::GetForms(DocumentStorage* storage)
@@ -163,7 +156,7 @@ bool NodeText::ReadPlain(ItemType type, ZrVariant& value) const
 void NodeText::ReadString(ZrVariant& value) const
 {
     if (IsWide()) {
-        value.SetString(m_forms->text);
+        value.SetString(m_forms->text.data(), m_forms->text.size());
     } else {
         PlainValue::ReadString(m_units, m_length, value);
     }
@@ -180,7 +173,7 @@ int NodeText::Convert(DocumentStorage* storage, int (*function)(const wchar_t* t
 
 bool NodeText::ContainsCR() const noexcept
 {
-    return IsWide() ? m_forms->text.find(L'\r') != std::wstring::npos : ZrXmlLib16::ContainsCR(m_units, m_length);
+    return IsWide() && m_forms->text.find(L'\r') != std::wstring::npos;
 }
 
 void NodeText::Release() noexcept

@@ -192,10 +192,11 @@ inline std::size_t CopyShortText(Utf16Unit* output, const Utf16Unit* text) noexc
     return SIZE_MAX;
 }
 
-/// Whether every character is a single unit.
-inline bool IsUtf16(const wchar_t* text, std::size_t length) noexcept
+/// Whether every character is a single unit, and none a carriage return.
+inline bool IsUtf16WithoutCR(const wchar_t* text, std::size_t length) noexcept
 {
-    return std::all_of(text, text + length, [](wchar_t c) { return static_cast<unsigned int>(c) <= 0xFFFF; });
+    return std::all_of(
+        text, text + length, [](wchar_t c) { return static_cast<unsigned int>(c) <= 0xFFFF && c != L'\r'; });
 }
 
 } // namespace ZrXmlLib16

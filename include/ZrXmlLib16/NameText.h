@@ -4,6 +4,7 @@
 
 #include "ZrXmlLib16/Export.h"
 
+#include <cstring>
 #include <string>
 
 namespace ZrXmlLib16 {
@@ -13,7 +14,8 @@ namespace ZrXmlLib16 {
 class ZRXML_API NameText {
 public:
     NameText() noexcept
-        : m_length(0)
+        : m_units{}
+        , m_length(0)
     {
     }
     NameText(const NameText& other);
@@ -25,10 +27,19 @@ public:
         }
     }
 
-    /// @param text null is empty; may be part of the name.
+    /// @param text null is empty; may be part of the name, which is empty after a failure.
     void Set(const wchar_t* text);
-    /// Whether the name is the text; never makes the wide form.
+    /// @{
+    /// Whether the names are the same; never makes the wide form.
     bool Is(const std::wstring& text) const noexcept;
+    bool Is(const NameText& other) const noexcept
+    {
+        if (IsWide() || other.IsWide()) {
+            return IsWide() ? other.Is(m_wide) : Is(other.m_wide);
+        }
+        return m_length == other.m_length && std::memcmp(m_units, other.m_units, sizeof(m_units)) == 0;
+    }
+    /// @}
     /// Replaces the text by the name, reusing its storage.
     void CopyTo(std::wstring& text) const;
     /// The wide form; updated in place when the name changes.
@@ -42,7 +53,7 @@ private:
     void MakeWide(std::wstring text) noexcept;
 
     union {
-        unsigned short m_units[CAPACITY];
+        unsigned short m_units[CAPACITY]; // zero behind the name
         std::wstring m_wide;
     };
     unsigned char m_length;

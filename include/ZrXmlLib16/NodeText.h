@@ -27,7 +27,7 @@ struct NodeForms {
 };
 
 /// The text of an element or attribute: 16-bit units in the memory of the document as the parser delivered them, or the
-/// wide form in a NodeForms of its own.
+/// wide form in a NodeForms of its own. A text with a carriage return is always wide.
 ///
 /// The owner passes its document's storage with every operation, null when it was built by hand.
 class ZRXML_API NodeText {
@@ -50,15 +50,13 @@ public:
     void AppendUnits(DocumentStorage* storage, const unsigned short* units, std::size_t count);
     /// Appends text as it is; the text becomes wide.
     void AppendWide(DocumentStorage* storage, const wchar_t* text, std::size_t length);
-    /// Appends text as it is, in units where it consists of units.
+    /// Appends text as it is, in units where it can be.
     void AppendCompact(DocumentStorage* storage, const wchar_t* text, std::size_t length);
-    /// Takes the units of the value of an attribute as they are. The text is empty before.
+    /// Takes the units of the value of an attribute. The text is empty before.
     void AssignParsed(DocumentStorage& storage, const unsigned short* units, std::size_t length);
-    /// Takes units that lie in the memory of the document as long as that lives, and of which others know too. The text
-    /// is empty before.
-    void Share(DocumentStorage& storage, const unsigned short* units, std::size_t length);
-    /// The same where the storage keeps texts, for units without carriage returns, fewer than 2^32 - 1. The text has
-    /// not been touched before.
+    /// Takes units that lie in the memory of the document as long as that lives, and of which others may know too:
+    /// fewer than 2^32 - 1, none a carriage return. The storage keeps texts, and nothing has been appended before. What
+    /// is appended later comes behind the units or makes a copy of them: the others never see it.
     void Adopt(const unsigned short* units, std::size_t length) noexcept
     {
         m_units = const_cast<unsigned short*>(units);

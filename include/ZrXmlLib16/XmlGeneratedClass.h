@@ -19,6 +19,7 @@ namespace ZrXmlLib16 {
 
 class CChoiceCollections;
 class CSeenFlags;
+class CXmlAttribute;
 class ZrVariant;
 
 /// Base of every generated complex-type class.
@@ -121,9 +122,12 @@ private:
     void WriteSimpleContent(CXmlWriter* writer) const;
     CXmlElement* ReadContent(const ZrXmlLib16Data::CParentElementInfo& info, CXmlElement* element, CXmlElement* cursor,
         const CSerializationContext& context, bool isOptional);
+    void ReadNilAttribute(const CXmlElement& element, const CXmlAttribute& attribute);
     void ReadSimpleContent(const ZrXmlLib16Data::CParentElementInfo& info, const CXmlElement* element);
     CXmlElement* ReadGroup(const ZrXmlLib16Data::CParentElementInfo& info, CXmlElement* element, CXmlElement* cursor,
         const CSerializationContext& context, bool isOptional);
+    CXmlElement* ReadSequenceTolerantly(const CSerializationContext& context, ZrXmlLib16Data::CElementInfo** records,
+        CXmlElement* parent, CXmlElement* cursor, const wchar_t* target, ZrXmlLib16Data::XmlElementType type);
     CXmlElement* FinishChoice(const CSerializationContext& context, CXmlElement* parent, CXmlElement* entry,
         CXmlElement* cursor, ZrXmlLib16Data::XmlElementType type, bool chosen, bool isOptional);
     bool ValidateAll(const CSerializationContext& context, CXmlElement* parent, const wchar_t* target,

@@ -195,6 +195,7 @@ protected:
     const std::wstring& ElementName() const;
     /// Whether that is the element name; never makes it.
     bool HasElementName(const std::wstring& name) const { return m_elementName.Is(name); }
+    bool HasElementName(const NameText& name) const { return m_elementName.Is(name); }
 
     friend class ZrXmlLib16Data::CAttributeInfo;
     friend class ZrXmlLib16Data::CElementInfo;
