@@ -6,7 +6,6 @@
 #include <cmath>
 #include <cstdio>
 #include <functional>
-#include <malloc.h>
 #include <stdexcept>
 
 namespace {
@@ -178,14 +177,6 @@ NamedFigure Evaluate(const std::string& name, const std::vector<std::size_t>& si
     return {name, worst};
 }
 
-/// Blocks that the allocator maps and unmaps one by one, which it begins with at some size, cost more than blocks that
-/// it has at hand. That step is none of the shape's.
-void KeepFreedMemory()
-{
-    mallopt(M_MMAP_MAX, 0);
-    mallopt(M_TRIM_THRESHOLD, -1);
-}
-
 void MeasureShape(const Shape& shape, const Effort& effort, std::vector<NamedFigure>& figures)
 {
     std::vector<std::size_t> sizes;
@@ -219,7 +210,6 @@ std::vector<NamedFigure> MeasureShapes(const Effort& effort, const std::regex& f
     for (const Shape& shape : shapes) {
         if (std::regex_search(shape.name, filter)) {
             if (figures.empty()) {
-                KeepFreedMemory();
                 std::printf(
                     "\n%-26s %6s %6s   %s\n", "times when doubled", "worst", "mean", "ns per unit of size, by size");
             }

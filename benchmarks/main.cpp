@@ -4,6 +4,7 @@
 #include "benchmarks/Report.h"
 
 #include <cstdio>
+#include <malloc.h>
 #include <stdexcept>
 
 /// The one run that is counted: a name by which the counting tool knows it.
@@ -19,9 +20,19 @@ struct Options {
     std::string filter;
     std::string onceRow;
     bool sizes = true;
+    bool keepsFreedMemory = true;
 };
 
-constexpr char usage[] = "usage: zrxml_bench [--quick | --smoke] [--filter REGEX] | --once ROW";
+constexpr char usage[] = "usage: zrxml_bench [--quick | --smoke] [--filter REGEX] [--plain-malloc] | --once ROW";
+
+/// The allocator gives large amounts of memory back to the system when they are freed, and maps large blocks one by
+/// one: then the same document costs more from some size on, only because its pages come anew every time. A program
+/// that reads many of them can have it keep the memory, and so do the measurements.
+void KeepFreedMemory()
+{
+    mallopt(M_MMAP_MAX, 0);
+    mallopt(M_TRIM_THRESHOLD, -1);
+}
 
 Options ParseOptions(int argc, char** argv)
 {
@@ -36,6 +47,8 @@ Options ParseOptions(int argc, char** argv)
         } else if (argument == "--filter" && hasValue) {
             options.filter = argv[++i];
             options.sizes = false;
+        } else if (argument == "--plain-malloc") {
+            options.keepsFreedMemory = false;
         } else if (argument == "--once" && hasValue) {
             options.onceRow = argv[++i];
         } else {
@@ -80,6 +93,9 @@ void Run(int argc, char** argv)
 {
     ZrXmlLib16::Register(16, 1, "", "", "");
     const Options options = ParseOptions(argc, argv);
+    if (options.keepsFreedMemory) {
+        KeepFreedMemory();
+    }
     if (!options.onceRow.empty()) {
         RunOnce(options.onceRow);
     } else {
