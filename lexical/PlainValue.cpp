@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstring>
+#include <iterator>
 #include <limits>
 #include <string_view>
 
@@ -114,15 +115,17 @@ void PlainValue::ReadString(const unsigned short* units, std::size_t length, ZrV
 
 void PlainValue::ReadLongString(const unsigned short* units, std::size_t length, ZrVariant& value)
 {
-    if (length < LEAST_FOR_LARGE_PAGES / sizeof(wchar_t)) {
-        value.Begin(ItemType_string, &ZrVariant::Value::string, units, units + length);
-        return;
-    }
     std::wstring& text = value.Begin(ItemType_string, &ZrVariant::Value::string);
     text.reserve(length);
     PreferLargePages(text.data(), length * sizeof(wchar_t));
-    text.resize(length);
-    std::copy_n(units, length, text.begin());
+    // Block by block: to resize the text first would write all of it twice.
+    wchar_t block[512];
+    for (std::size_t done = 0; done < length;) {
+        const std::size_t count = std::min(length - done, std::size(block));
+        std::copy_n(units + done, count, block);
+        text.append(block, count);
+        done += count;
+    }
 }
 
 bool PlainValue::Read(const unsigned short* units, std::size_t length, ItemType type, ZrVariant& value)
