@@ -112,9 +112,13 @@ void CXmlCollectionBase::ValidateCount(const CSerializationContext& context) con
 
 template <class Tell> void CXmlCollectionBase::TellListeners(Tell tell)
 {
-    if (m_listeners.empty()) {
-        return;
+    if (!m_listeners.empty()) { // seldom
+        TellEach(tell);
     }
+}
+
+template <class Tell> void CXmlCollectionBase::TellEach(Tell tell)
+{
     const std::vector<IEventSink*> snapshot = m_listeners;
     for (IEventSink* listener : snapshot) {
         if (std::find(m_listeners.begin(), m_listeners.end(), listener) != m_listeners.end()) {

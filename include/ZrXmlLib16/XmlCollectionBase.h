@@ -61,6 +61,7 @@ protected:
 
 private:
     template <class Tell> void TellListeners(Tell tell);
+    template <class Tell> [[gnu::noinline]] void TellEach(Tell tell);
 
     std::wstring m_namespace;
     std::vector<IEventSink*> m_listeners;
