@@ -9,6 +9,9 @@ namespace ZrXmlLib16 {
 /// The memory of one parser, up to a limit. The parser writes the namespace of every prefixed attribute out before it
 /// reports the start tag: a long namespace and many attributes of one tag would fill the memory.
 ///
+/// A parser starts with a few dozen small blocks: as long as there is room they lie in this object, most of which is
+/// that room, and belongs on the stack.
+///
 /// Outlives the parser. What the parser takes while a Scope of its memory exists in the thread counts for it.
 class ParserMemory {
 public:
@@ -50,10 +53,17 @@ private:
     static Header* HeaderOf(void* block) noexcept;
 
     bool Take(std::size_t size) noexcept;
+    void* AllocateBlock(std::size_t size) noexcept;
+    void* MoveFromRoom(Header* header, std::size_t size) noexcept;
+    Header* FindRoom(std::size_t size) noexcept;
+    bool IsInRoom(const Header* header) const noexcept;
 
     const std::size_t m_maximum;
     std::size_t m_taken = 0;
     bool m_isSystemExhausted = false;
+    // Used from its beginning to its end; only the newest block comes back.
+    unsigned char* m_free = m_room;
+    alignas(std::max_align_t) unsigned char m_room[16384];
 };
 
 } // namespace ZrXmlLib16
