@@ -4,6 +4,7 @@
 #include "ZrXmlLib16/XmlElement.h"
 #include "ZrXmlLib16/XmlObjectHelper.h"
 #include "core/TextComparison.h"
+#include "xml/NodeAccess.h"
 
 #include <string_view>
 
@@ -35,7 +36,7 @@ bool TestToken(const std::wstring& namespaceUri, std::wstring_view token, const 
 bool CXmlObjectHelper::DoesElementNameMatch(const CSerializationContext& context, const CXmlElement* element,
     const std::wstring& name, const std::wstring& namespaceUri)
 {
-    return element && SameText(element->GetLocalName(), name)
+    return element && NodeAccess::GetObjectName(*element).Is(name)
         && (context.GetIgnoreNamespaces() || context.GetSchemaType() == SchemaType_DTD
             || SameText(element->GetNamespaceURI(), namespaceUri));
 }

@@ -56,6 +56,19 @@ bool OfferAttribute(CAttributeInfo** records, std::size_t count, const CSerializ
 
 } // namespace
 
+/// A name that is wide may have a NUL in it, where that of an object ends.
+inline void CXmlGeneratedClass::TakeElementName(const NameText& name)
+{
+    if (HasElementName(name)) {
+        return;
+    }
+    if (const std::wstring* const wide = name.FindWide()) {
+        SetElementName(wide->c_str());
+    } else {
+        m_elementName = name;
+    }
+}
+
 inline CXmlElement* CXmlGeneratedClass::ReadGroup(const CParentElementInfo& info, CXmlElement* element,
     CXmlElement* cursor, const CSerializationContext& context, bool isOptional)
 {
@@ -115,9 +128,7 @@ CXmlElement* CXmlGeneratedClass::FromXml_Int(
         if (depth.IsTooDeep(context)) {
             ThrowTooDeep(*element);
         }
-        if (!HasElementName(NodeAccess::GetObjectName(*element))) {
-            SetElementName(element->GetLocalName().c_str());
-        }
+        TakeElementName(NodeAccess::GetObjectName(*element));
         return ReadContent(info, element, firstChild, context, isOptional);
     } catch (CZrException& exception) {
         ErrorPosition::Attach(exception, *element);

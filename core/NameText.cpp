@@ -7,7 +7,61 @@
 #include <new>
 #include <utility>
 
+#include <emmintrin.h>
+
 namespace ZrXmlLib16 {
+
+namespace {
+
+constexpr std::size_t BLOCK = 4; // characters that are compared at a time
+
+bool IsBlockSame(const unsigned short* units, const wchar_t* text) noexcept
+{
+    const __m128i narrow = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(units));
+    const __m128i wide = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text));
+    const __m128i same = _mm_cmpeq_epi32(_mm_unpacklo_epi16(narrow, _mm_setzero_si128()), wide);
+    return _mm_movemask_epi8(same) == 0xFFFF;
+}
+
+/// The last block may overlap the one before.
+bool AreSame(const unsigned short* units, const wchar_t* text, std::size_t length) noexcept
+{
+    if (length < BLOCK) {
+        return std::equal(units, units + length, text,
+            [](unsigned short unit, wchar_t c) { return static_cast<wchar_t>(unit) == c; });
+    }
+    for (std::size_t at = 0; at + BLOCK < length; at += BLOCK) {
+        if (!IsBlockSame(units + at, text + at)) {
+            return false;
+        }
+    }
+    return IsBlockSame(units + length - BLOCK, text + length - BLOCK);
+}
+
+} // namespace
+
+NameText::NameText(const unsigned short* units, std::size_t length)
+    : NameText()
+{
+    if (length <= CAPACITY) {
+        std::copy_n(units, length, m_units);
+        m_length = static_cast<unsigned char>(length);
+    } else {
+        MakeWide(std::wstring(units, units + length));
+    }
+}
+
+NameText::NameText(const std::wstring& text)
+    : NameText()
+{
+    const auto isUnit = [](wchar_t c) { return static_cast<unsigned int>(c) - 1 < 0xFFFF; };
+    if (text.size() <= CAPACITY && std::all_of(text.begin(), text.end(), isUnit)) {
+        std::transform(text.begin(), text.end(), m_units, [](wchar_t c) { return static_cast<unsigned short>(c); });
+        m_length = static_cast<unsigned char>(text.size());
+    } else {
+        MakeWide(text);
+    }
+}
 
 NameText::NameText(const NameText& other)
     : NameText()
@@ -57,9 +111,7 @@ bool NameText::Is(const std::wstring& text) const noexcept
     if (IsWide()) {
         return m_wide == text;
     }
-    return text.size() == m_length
-        && std::equal(m_units, m_units + m_length, text.data(),
-            [](unsigned short unit, wchar_t c) { return static_cast<wchar_t>(unit) == c; });
+    return text.size() == m_length && AreSame(m_units, text.data(), m_length);
 }
 
 void NameText::CopyTo(std::wstring& text) const

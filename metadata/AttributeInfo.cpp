@@ -42,14 +42,15 @@ bool CAttributeInfo::IsThisAttribute(const CSerializationContext& context, CXmlA
     if (!attribute || NodeAccess::IsTaker(*attribute, this)) {
         return attribute != nullptr;
     }
-    return SameText(attribute->GetLocalName(), m_attributeName)
+    return NodeAccess::GetObjectName(*attribute).Is(m_attributeName)
         && (context.GetIgnoreNamespaces() || SameText(attribute->GetNamespaceURI(), m_namespace));
 }
 
 bool CAttributeInfo::HasName(const CXmlAttribute& attribute) const
 {
     return NodeAccess::IsTaker(attribute, this)
-        || (SameText(attribute.GetLocalName(), m_attributeName) && SameText(attribute.GetNamespaceURI(), m_namespace));
+        || (NodeAccess::GetObjectName(attribute).Is(m_attributeName)
+            && SameText(attribute.GetNamespaceURI(), m_namespace));
 }
 
 bool CAttributeInfo::TestNamespace(

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include <emmintrin.h>
@@ -26,13 +27,23 @@ struct NamespaceText {
 
 /// The name of an element or attribute, with the questions that readers ask about names answered once.
 struct XmlName {
+    /// @{
     /// @param text not owned.
     /// @param nameStorage where the name is shared; null for a name that belongs to a single node.
-    XmlName(const NamespaceText& text, std::wstring localPart, DocumentStorage* nameStorage);
+    XmlName(const NamespaceText& text, const std::wstring& localName, DocumentStorage* nameStorage);
+    XmlName(const NamespaceText& text, const Utf16Unit* localName, std::size_t length, DocumentStorage* nameStorage);
+    /// @}
+
+    /// Makes the wide form when somebody asks for it first.
+    const std::wstring& GetLocalName() const
+    {
+        const std::wstring* const wide = wideLocalName ? wideLocalName.get() : objectName.FindWide();
+        return wide ? *wide : MakeWideLocalName();
+    }
 
     const std::wstring& namespaceUri;
-    const std::wstring localName;
-    NameText objectName; ///< the local name in the form in which objects keep theirs
+    const NameText objectName; ///< the local name in the form in which objects keep theirs
+    mutable std::unique_ptr<const std::wstring> wideLocalName;
     bool isNamespaceAttribute;
     bool isNilAttribute;
     bool isLong; ///< more than 128 characters
@@ -55,6 +66,10 @@ struct XmlName {
     /// @}
     /// The class of the object that was read from such an element last; null when there was none.
     mutable ClassMemory::Entry* objectClass = nullptr;
+
+private:
+    void Classify(const NamespaceText& text, std::size_t length);
+    const std::wstring& MakeWideLocalName() const;
 };
 
 /// The name of a node that was built by hand.
@@ -98,24 +113,26 @@ public:
         }
         return Search(qualifiedName);
     }
+    const XmlName& Intern(const std::wstring& namespaceUri, const Utf16Unit* localName, std::size_t length);
     const XmlName& Intern(const std::wstring& namespaceUri, const std::wstring& localName);
 
 private:
-    /// What the key of an entry is: a name as the parser delivered it, the address of its namespace and a local name in
-    /// wide text, or a namespace in wide text.
-    enum class KeyForm : unsigned char { Parser, Wide, Namespace };
+    /// How the local name of an entry lies in memory: in a name as the parser delivered it, as units, or as wide text.
+    /// The last form is that of a namespace in wide text.
+    enum class KeyForm : unsigned char { Parser, Units, Wide, Namespace };
     struct Key {
-        const char* bytes;
-        std::size_t size;
+        const NamespaceText& text; // any for a namespace
+        const void* local;         // the local name, or the namespace
+        std::size_t localSize;     // octets
         KeyForm form;
         std::uint64_t hash;
     };
-    /// Lies in the document's arena, its key behind it, at least a block long.
+    /// Lies in the document's arena, its text behind it, at least a block long: the name as the parser delivered it
+    /// with its final NUL, or the local name alone, or the namespace.
     struct Entry {
         static constexpr std::size_t BLOCK = 16;
 
-        Entry(const Key& key, const NamespaceText& text, std::wstring localName, DocumentStorage& storage,
-            Entry* olderEntry);
+        Entry(const Key& key, std::size_t size, DocumentStorage& storage, Entry* olderEntry);
 
         bool Is(const Key& key) const noexcept;
         bool Is(const Utf16Unit* qualifiedName) const noexcept;
@@ -125,7 +142,8 @@ private:
 
         const NamespaceText& text; // which an entry for a namespace owns
         const XmlName name;
-        const std::size_t keySize; // of the parser's form: with the final NUL
+        const std::size_t keySize; // of the text behind the entry
+        const std::size_t localSize;
         const std::uint64_t hash;
         const unsigned firstBlock; // a bit for every octet of the key that is in the first block
         const KeyForm form;
@@ -134,12 +152,12 @@ private:
     };
 
     [[gnu::noinline]] const XmlName& Search(const Utf16Unit* qualifiedName);
-    Entry& InsertParsed(const Key& key, const Utf16Unit* qualifiedName, std::size_t length);
-    const NamespaceText& ShareNamespace(const Utf16Unit* units, std::size_t length);
+    const NamespaceText& FindNamespace(const Utf16Unit* qualifiedName, std::size_t length);
     const NamespaceText& ShareNamespace(const std::wstring& namespaceUri);
-    static Key MakeKey(const void* bytes, std::size_t size, KeyForm form) noexcept;
+    static Key MakeKey(const NamespaceText& text, const void* local, std::size_t localSize, KeyForm form) noexcept;
     Entry* Find(const Key& key) const noexcept;
-    Entry& Insert(const Key& key, const NamespaceText& text, std::wstring localName);
+    Entry& FindOrInsert(const Key& key);
+    Entry& Insert(const Key& key, const void* bytes, std::size_t size);
     void Grow();
     Entry*& FreeSlot(std::uint64_t hash) noexcept;
 
@@ -151,7 +169,6 @@ private:
     std::size_t m_entryCount = 0;
     const Entry* m_newestParsed = nullptr;
     const NamespaceText* m_latestNamespace = nullptr; // that came as wide text
-    std::wstring m_wideKey;                           // reused
 };
 
 /// The octets that are the same in two blocks are 0xFF.

@@ -36,6 +36,7 @@ public:
 
     /// The local name in the form in which objects keep theirs.
     static const NameText& GetObjectName(const CXmlElement& element) { return element.m_name->objectName; }
+    static const NameText& GetObjectName(const CXmlAttribute& attribute) { return attribute.m_name->objectName; }
 
     /// Says that another walk over the element's document begins, with records of its own.
     static void BeginWalk(const CXmlElement& element);

@@ -35,7 +35,7 @@ void TreeBuilder::CountLongName(const XmlName& name)
     if (!m_document.m_input) { // the names come from the program
         return;
     }
-    m_document.m_nameCharacters += name.namespaceUri.size() + name.localName.size();
+    m_document.m_nameCharacters += name.namespaceUri.size() + name.GetLocalName().size();
     const unsigned long maximum = CFormatSettings::MaximumExpansion(*m_document.m_context, m_document.m_inputSize);
     if (m_document.m_nameCharacters > maximum) {
         throw CZrException(FormatString(Message::NAMES_EXPAND_TOO_FAR, maximum));

@@ -56,7 +56,7 @@ const std::wstring& CXmlAttribute::GetNamespaceURI() const
 
 const std::wstring& CXmlAttribute::GetLocalName() const
 {
-    return m_name->localName;
+    return m_name->GetLocalName();
 }
 
 const std::wstring& CXmlAttribute::GetValue() const

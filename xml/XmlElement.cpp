@@ -170,7 +170,7 @@ void CXmlElement::SetElementName(const std::wstring& name)
 
 void CXmlElement::SetNamespace(const std::wstring& namespaceUri)
 {
-    SetName(namespaceUri, m_name->localName);
+    SetName(namespaceUri, m_name->GetLocalName());
 }
 
 void CXmlElement::SetName(const std::wstring& namespaceUri, const std::wstring& localName)
@@ -198,7 +198,7 @@ const std::wstring& CXmlElement::GetNamespaceURI() const
 
 const std::wstring& CXmlElement::GetLocalName() const
 {
-    return m_name->localName;
+    return m_name->GetLocalName();
 }
 
 const std::wstring& CXmlElement::GetText() const

@@ -4,6 +4,7 @@
 
 #include "ZrXmlLib16/Export.h"
 
+#include <cstddef>
 #include <cstring>
 #include <string>
 
@@ -18,6 +19,12 @@ public:
         , m_length(0)
     {
     }
+    /// @{
+    /// @param units without NUL.
+    NameText(const unsigned short* units, std::size_t length);
+    /// The whole text; what is behind a NUL is kept, in the wide form.
+    explicit NameText(const std::wstring& text);
+    /// @}
     NameText(const NameText& other);
     NameText& operator=(const NameText& other);
     ~NameText()
@@ -40,6 +47,8 @@ public:
         return m_length == other.m_length && std::memcmp(m_units, other.m_units, sizeof(m_units)) == 0;
     }
     /// @}
+    /// The wide form where it exists, else null.
+    const std::wstring* FindWide() const noexcept { return IsWide() ? &m_wide : nullptr; }
     /// Replaces the text by the name, reusing its storage.
     void CopyTo(std::wstring& text) const;
     /// The wide form; updated in place when the name changes.

@@ -123,6 +123,7 @@ private:
     CXmlElement* ReadContent(const ZrXmlLib16Data::CParentElementInfo& info, CXmlElement* element, CXmlElement* cursor,
         const CSerializationContext& context, bool isOptional);
     void ReadNilAttribute(const CXmlElement& element, const CXmlAttribute& attribute);
+    void TakeElementName(const NameText& name);
     void ReadSimpleContent(const ZrXmlLib16Data::CParentElementInfo& info, const CXmlElement* element);
     CXmlElement* ReadGroup(const ZrXmlLib16Data::CParentElementInfo& info, CXmlElement* element, CXmlElement* cursor,
         const CSerializationContext& context, bool isOptional);

@@ -166,7 +166,7 @@ def variant(value):
 
 def xml_name(node):
     name = owned(node["m_name"])
-    return "" if not name else qualified(wide(name["namespaceUri"]), wide(name["localName"]))
+    return "" if not name else qualified(wide(name["namespaceUri"]), name_text(name["objectName"]))
 
 
 def node_text(text):
