@@ -5,7 +5,6 @@
 #include "core/FormatSettings.h"
 #include "fastinfoset/FastInfosetHeader.h"
 #include "fastinfoset/SkippedItems.h"
-#include "streams/PlainText.h"
 #include "xml/NodeAccess.h"
 
 namespace ZrXmlLib16 {
@@ -176,22 +175,6 @@ void CFastInfosetReader::Decoder::ReadIndexedChunk(CXmlElement& element, std::ui
     const std::wstring& text = RequireEntry(table.FindText(index), FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_4);
     CountIndexedText(text.size());
     m_document.AppendTextExcludingCR(&element, text);
-}
-
-/// Decodes most texts where they will stay, in the memory of the document; null for any other.
-const Utf16Unit* CFastInfosetReader::Decoder::DecodePlainText(OctetString content)
-{
-    DocumentStorage& storage = m_tree.GetStorage();
-    if (m_input.GetRest() < PLAIN_BLOCK || content.length > LONGEST_SHARED_TEXT || !storage.KeepsTexts()) {
-        return nullptr;
-    }
-    Arena& arena = storage.GetArena();
-    Utf16Unit* const units = arena.FindRoom<Utf16Unit>(content.length + PLAIN_BLOCK);
-    if (!units || !WidenPlainText(content.octets, content.length, units)) {
-        return nullptr;
-    }
-    arena.Take(units + content.length);
-    return units;
 }
 
 const XmlName& CFastInfosetReader::Decoder::ReadElementName(unsigned char first)

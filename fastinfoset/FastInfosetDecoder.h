@@ -8,6 +8,7 @@
 #include "fastinfoset/EncodedString.h"
 #include "fastinfoset/OctetReader.h"
 #include "fastinfoset/ReaderVocabulary.h"
+#include "streams/PlainText.h"
 #include "xml/TreeBuilder.h"
 
 #include <string>
@@ -18,8 +19,7 @@ namespace ZrXmlLib16 {
 /// Decodes one document, as FastInfosetDecoder.cpp and, for what is rare, FastInfosetRareItems.cpp do it.
 ///
 /// The open elements are those of the document that is built: nothing here recurses.
-class [[gnu::visibility("hidden")]] CFastInfosetReader::Decoder
-{
+class __attribute__((visibility("hidden"))) CFastInfosetReader::Decoder {
 public:
     Decoder(const CFastInfosetContext& context, CXmlDocument& document, OctetString input);
 
@@ -33,7 +33,7 @@ private:
 
     struct NameParts {
         const std::wstring& namespaceUri;
-        const std::wstring& localName;
+        LocalName localName;
     };
 
     unsigned char FindRoot();
@@ -45,30 +45,31 @@ private:
     void ReadNamespaceAttributes();
     void EndElements(unsigned char terminator);
     NameParts ReadLiteralName(unsigned char first);
-    const std::wstring& ReadIdentifyingString(TextTable & table);
+    const std::wstring& ReadIdentifyingString(TextTable& table);
+    LocalName ReadLocalName();
 
-    void ReadAttributes(CXmlElement & element);
+    void ReadAttributes(CXmlElement& element);
     inline const XmlName& ReadAttributeName(unsigned char first);
     [[gnu::noinline]] const XmlName& ReadLiteralAttributeName(unsigned char first);
-    inline void ReadAttributeValue(CXmlElement & element, const XmlName& name);
-    inline void ReadIndexedValue(CXmlElement & element, const XmlName& name, std::uint64_t index);
+    inline void ReadAttributeValue(CXmlElement& element, const XmlName& name);
+    inline void ReadIndexedValue(CXmlElement& element, const XmlName& name, std::uint64_t index);
     inline void AddPlainValue(
-        CXmlElement & element, const XmlName& name, const Utf16Unit* units, std::size_t length, bool isAdded);
+        CXmlElement& element, const XmlName& name, const Utf16Unit* units, std::size_t length, bool isAdded);
     [[gnu::noinline]] void AddLiteralValue(
-        CXmlElement & element, const XmlName& name, OctetString content, bool isAdded);
+        CXmlElement& element, const XmlName& name, OctetString content, bool isAdded);
     [[gnu::noinline]] void AddEncodedValue(
-        CXmlElement & element, const XmlName& name, const EncodedString& literal, bool isAdded);
+        CXmlElement& element, const XmlName& name, const EncodedString& literal, bool isAdded);
 
     inline void ReadChunk(unsigned char first);
-    void ReadIndexedChunk(CXmlElement & element, std::uint64_t index);
-    inline void SetPlainText(CXmlElement & element, const Utf16Unit* units, std::size_t length, bool isAdded);
-    [[gnu::noinline]] void AppendLiteral(CXmlElement & element, OctetString content, bool isAdded);
-    [[gnu::noinline]] void AppendEncoded(CXmlElement & element, const EncodedString& literal, bool isAdded);
+    void ReadIndexedChunk(CXmlElement& element, std::uint64_t index);
+    inline void SetPlainText(CXmlElement& element, const Utf16Unit* units, std::size_t length, bool isAdded);
+    [[gnu::noinline]] void AppendLiteral(CXmlElement& element, OctetString content, bool isAdded);
+    [[gnu::noinline]] void AppendEncoded(CXmlElement& element, const EncodedString& literal, bool isAdded);
 
     inline const Utf16Unit* DecodePlainText(OctetString content);
     const Utf16Unit* StorePlainText();
     std::size_t DecodeUnits(OctetString content);
-    void AddValue(ValueTable & table, const Utf16Unit* nodeUnits, std::size_t count);
+    void AddValue(ValueTable& table, const Utf16Unit* nodeUnits, std::size_t count);
     void CountIndexedText(std::size_t length);
     [[noreturn]] void ThrowTooMuchIndexedText() const;
     [[noreturn]] static void ThrowInvalidElement();
@@ -92,6 +93,22 @@ private:
     std::vector<Utf16Unit> m_units;  // the literal that is being decoded
     std::wstring m_text;             // the same for encodings other than UTF-8
 };
+
+/// Decodes most texts where they will stay, in the memory of the document; null for any other.
+inline const Utf16Unit* CFastInfosetReader::Decoder::DecodePlainText(OctetString content)
+{
+    DocumentStorage& storage = m_tree.GetStorage();
+    if (m_input.GetRest() < PLAIN_BLOCK || content.length > LONGEST_SHARED_TEXT || !storage.KeepsTexts()) {
+        return nullptr;
+    }
+    Arena& arena = storage.GetArena();
+    Utf16Unit* const units = arena.FindRoom<Utf16Unit>(content.length + PLAIN_BLOCK);
+    if (!units || !WidenPlainText(content.octets, content.length, units)) {
+        return nullptr;
+    }
+    arena.Take(units + content.length);
+    return units;
+}
 
 inline void CFastInfosetReader::Decoder::AddPlainValue(
     CXmlElement& element, const XmlName& name, const Utf16Unit* units, std::size_t length, bool isAdded)

@@ -113,11 +113,32 @@ CFastInfosetReader::Decoder::NameParts CFastInfosetReader::Decoder::ReadLiteralN
     }
     const std::wstring& prefix = hasPrefix ? ReadIdentifyingString(m_vocabulary.GetPrefixes()) : absent;
     const std::wstring& namespaceUri = hasNamespace ? ReadIdentifyingString(m_vocabulary.GetNamespaceNames()) : absent;
-    const std::wstring& localName = ReadIdentifyingString(m_vocabulary.GetLocalNames());
+    const LocalName localName = ReadLocalName();
     if (hasPrefix) {
         m_document.AddNamespaceDeclaration(prefix, namespaceUri);
     }
     return {namespaceUri, localName};
+}
+
+LocalName CFastInfosetReader::Decoder::ReadLocalName()
+{
+    const unsigned char first = m_input.Fetch();
+    if (first & INDEX_ON_BIT_1) {
+        const LocalName name = m_vocabulary.FindLocalName(m_input.ReadIntegerOnBit2(first));
+        if (!name) {
+            ThrowFastInfosetFailure(FastInfosetReaderMessages::INVALID_INTEGER_ON_BIT_2);
+        }
+        CountIndexedText(name.text ? name.text->size() : name.length);
+        return name;
+    }
+    const OctetString content = m_input.ReadStringOnBit2(first);
+    if (const Utf16Unit* const units = DecodePlainText(content)) {
+        m_vocabulary.GetLocalNames().Add(units, content.length);
+        return {units, content.length, nullptr};
+    }
+    m_text = DecodeUtf8(content.octets, content.length);
+    m_vocabulary.GetLocalNames().Add(m_text);
+    return {nullptr, 0, &m_text};
 }
 
 const std::wstring& CFastInfosetReader::Decoder::ReadIdentifyingString(TextTable& table)

@@ -42,6 +42,7 @@ ValueTable::ValueTable(const CFIVocabulary::CFIStringTable* base)
     : m_base(base && base->size() > 0 ? &base->at(1) : nullptr)
     , m_baseSize(base ? base->size() : 0)
 {
+    m_added.reserve(FIRST_CAPACITY);
 }
 
 const std::wstring* ValueTable::FindText(std::uint64_t index) const noexcept
@@ -89,25 +90,28 @@ ReaderVocabulary::ReaderVocabulary(CFIVocabulary& generated, bool isUsed, NameTa
     }
 }
 
-const XmlName& ReaderVocabulary::AddElementName(const std::wstring& namespaceUri, const std::wstring& localName)
-{
-    return Add(m_elementNames, namespaceUri, localName);
-}
-
-const XmlName& ReaderVocabulary::AddAttributeName(const std::wstring& namespaceUri, const std::wstring& localName)
-{
-    return Add(m_attributeNames, namespaceUri, localName);
-}
-
 const XmlName& ReaderVocabulary::Add(
-    QualifiedNames& table, const std::wstring& namespaceUri, const std::wstring& localName)
+    QualifiedNames& table, const std::wstring& namespaceUri, const LocalName& localName)
 {
-    const XmlName& name = m_names.Intern(namespaceUri, localName);
+    const XmlName& name = Intern(namespaceUri, localName);
     if (table.names.size() < MAXIMUM_INDEX) {
         ReserveFirst(table.names);
         table.names.push_back(&name);
     }
     return name;
+}
+
+LocalName ReaderVocabulary::FindLocalName(std::uint64_t index) const noexcept
+{
+    const ValueTable::Units* const found = m_localNames.FindUnits(index);
+    return found ? LocalName{found->units, found->length, nullptr}
+                 : LocalName{nullptr, 0, m_localNames.FindText(index)};
+}
+
+const XmlName& ReaderVocabulary::Intern(const std::wstring& namespaceUri, const LocalName& localName)
+{
+    return localName.text ? m_names.Intern(namespaceUri, *localName.text)
+                          : m_names.Intern(namespaceUri, localName.units, localName.length);
 }
 
 const XmlName* ReaderVocabulary::Resolve(QualifiedNames& table, std::uint64_t index)
@@ -116,11 +120,11 @@ const XmlName* ReaderVocabulary::Resolve(QualifiedNames& table, std::uint64_t in
     static const std::wstring noNamespace;
     const std::wstring* const namespaceUri =
         parts.m_namespace == 0 ? &noNamespace : m_namespaceNames.Find(parts.m_namespace);
-    const std::wstring* const localName = m_localNames.Find(parts.m_local);
+    const LocalName localName = FindLocalName(parts.m_local);
     if (!namespaceUri || !localName) {
         return nullptr;
     }
-    table.names[index - 1] = &m_names.Intern(*namespaceUri, *localName);
+    table.names[index - 1] = &Intern(*namespaceUri, localName);
     return table.names[index - 1];
 }
 

@@ -44,8 +44,8 @@ private:
     std::wstring m_unlisted; // the last text that found the table full
 };
 
-/// The attribute values or character chunks that an index stands for. Most of those that the document brought are units
-/// in its memory, which its nodes share; the others and the base are wide text.
+/// The attribute values, character chunks or local names that an index stands for. Most of those that the document
+/// brought are units in its memory, which its nodes share; the others and the base are wide text.
 class ValueTable {
 public:
     /// Without carriage returns, and fewer than 2^32 - 1.
@@ -83,6 +83,15 @@ private:
     std::vector<std::wstring> m_wide;
 };
 
+/// A local name as it lies in a table: units or, if there is a text, that. Neither when there is no such entry.
+struct LocalName {
+    explicit operator bool() const noexcept { return units || text; }
+
+    const unsigned short* units;
+    std::size_t length;
+    const std::wstring* text;
+};
+
 /// The tables of one document while it is read. The names of elements and attributes are those of the document
 /// itself, so an index gives a name that nodes can take as it is.
 class ReaderVocabulary {
@@ -96,15 +105,22 @@ public:
 
     TextTable& GetPrefixes() noexcept { return m_prefixes; }
     TextTable& GetNamespaceNames() noexcept { return m_namespaceNames; }
-    TextTable& GetLocalNames() noexcept { return m_localNames; }
+    ValueTable& GetLocalNames() noexcept { return m_localNames; }
     ValueTable& GetAttributeValues() noexcept { return m_attributeValues; }
     ValueTable& GetCharacterChunks() noexcept { return m_characterChunks; }
 
+    LocalName FindLocalName(std::uint64_t index) const noexcept;
     /// Null for an index that is not in the table.
     const XmlName* FindElementName(std::uint64_t index) { return Find(m_elementNames, index); }
     const XmlName* FindAttributeName(std::uint64_t index) { return Find(m_attributeNames, index); }
-    const XmlName& AddElementName(const std::wstring& namespaceUri, const std::wstring& localName);
-    const XmlName& AddAttributeName(const std::wstring& namespaceUri, const std::wstring& localName);
+    const XmlName& AddElementName(const std::wstring& namespaceUri, const LocalName& localName)
+    {
+        return Add(m_elementNames, namespaceUri, localName);
+    }
+    const XmlName& AddAttributeName(const std::wstring& namespaceUri, const LocalName& localName)
+    {
+        return Add(m_attributeNames, namespaceUri, localName);
+    }
 
     /// For its restricted alphabets.
     const CFIVocabulary& GetAlphabets() const noexcept { return m_generated; }
@@ -129,13 +145,14 @@ private:
         return name ? name : Resolve(table, index);
     }
     const XmlName* Resolve(QualifiedNames& table, std::uint64_t index);
-    const XmlName& Add(QualifiedNames& table, const std::wstring& namespaceUri, const std::wstring& localName);
+    const XmlName& Add(QualifiedNames& table, const std::wstring& namespaceUri, const LocalName& localName);
+    const XmlName& Intern(const std::wstring& namespaceUri, const LocalName& localName);
 
     const CFIVocabulary& m_generated;
     NameTable& m_names;
     TextTable m_prefixes;
     TextTable m_namespaceNames;
-    TextTable m_localNames;
+    ValueTable m_localNames;
     ValueTable m_attributeValues;
     ValueTable m_characterChunks;
     QualifiedNames m_elementNames;
