@@ -4,8 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
-#include <vector>
 
 namespace ZrXmlLib16 {
 
@@ -20,6 +18,7 @@ public:
         : m_expectedSize(expectedSize)
     {
     }
+    ~Arena();
     Arena(const Arena&) = delete;
     Arena& operator=(const Arena&) = delete;
 
@@ -58,6 +57,11 @@ public:
     void Take(void* pieceEnd) noexcept { m_free = static_cast<unsigned char*>(pieceEnd); }
 
 private:
+    /// What a chunk begins with; the pieces lie behind it.
+    struct alignas(__STDCPP_DEFAULT_NEW_ALIGNMENT__) Chunk {
+        Chunk* older;
+    };
+
     std::size_t PaddingOf(std::size_t alignment) const noexcept
     {
         return (~reinterpret_cast<std::uintptr_t>(m_free) + 1) & (alignment - 1);
@@ -68,7 +72,7 @@ private:
     unsigned char* m_end = nullptr;
     const std::size_t m_expectedSize;
     std::size_t m_total = 0; // bytes of all chunks
-    std::vector<std::unique_ptr<unsigned char[]>> m_chunks;
+    Chunk* m_newest = nullptr;
 };
 
 } // namespace ZrXmlLib16

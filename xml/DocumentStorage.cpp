@@ -17,6 +17,8 @@ constexpr std::size_t HEAP_OFFSET = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
 
 // Typical documents need a little less per four bytes of their text.
 constexpr std::size_t ARENA_PER_FOUR_BYTES = 17;
+// And distinct names weigh much in small ones.
+constexpr std::size_t ARENA_FOR_NAMES = 12288;
 constexpr std::size_t LARGEST_ESTIMATED_INPUT = std::size_t(1) << 30;
 
 } // namespace
@@ -63,7 +65,8 @@ void XmlNameRelease::operator()(const XmlName* name) const noexcept
 
 DocumentStorage::DocumentStorage(CXmlDocument& document, std::size_t inputSize)
     : m_document(document)
-    , m_arena(std::min(inputSize, LARGEST_ESTIMATED_INPUT) / 4 * ARENA_PER_FOUR_BYTES)
+    , m_arena(std::min(inputSize, LARGEST_ESTIMATED_INPUT) / 4 * ARENA_PER_FOUR_BYTES
+          + (inputSize == 0 ? 0 : ARENA_FOR_NAMES))
     , m_classes(m_arena)
     , m_elements(*this)
     , m_attributes(*this)

@@ -10,10 +10,17 @@
 
 namespace ZrXmlLib16 {
 
+namespace {
+
+constexpr std::size_t USUAL_DEPTH = 16;
+
+} // namespace
+
 CXmlElement& TreeBuilder::OpenRoot(const XmlName& name)
 {
     m_document.m_maximumElements = m_document.m_context->GetInputLimits().GetMaxElements();
     m_document.m_elementStack.clear();
+    m_document.m_elementStack.reserve(USUAL_DEPTH);
     m_document.m_documentElement.reset(NewElement(nullptr, name));
     m_document.m_elementStack.push_back(m_document.m_documentElement.get());
     return *m_document.m_documentElement;
