@@ -68,6 +68,24 @@ void LoadExactly(CXmlDocument& document, const std::string& octets)
 
 } // namespace
 
+// New, by the index of the local name, and by that of the whole name.
+TEST(LiteralText, OfLocalNamesOfEveryLength)
+{
+    ForEveryLiteral(
+        [](const std::string& octets, const Special& special, const std::wstring& before, const std::wstring& behind) {
+            const std::string name = static_cast<char>(octets.size() - 1) + octets;
+            for (const std::string& rest : {std::string(), std::string(15, 'z')}) {
+                CXmlDocument document;
+                LoadExactly(document, FastInfoset("3C") + name + Octets("3C 80 F0 00 FF") + rest);
+                const CXmlElement* const root = document.GetDocumentElement();
+                const CXmlElement* const first = root->GetFirstElement();
+                for (const CXmlElement* element : {root, first, first->GetNextSiblingElement()}) {
+                    EXPECT_TRUE(before + special.inValue + behind == element->GetLocalName());
+                }
+            }
+        });
+}
+
 // In blocks where many octets follow, one by one near the end of the input.
 TEST(LiteralText, OfElementsOfEveryLength)
 {

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <set>
 #include <stdexcept>
 
 using namespace ZrXmlLib16;
@@ -33,6 +34,36 @@ TEST(Document, BuilderMakesTheSameTreeAsTheParser)
     EXPECT_EQ(tree,
         ParsedTree("<a:order xmlns:a='urn:a' id='7'>x\n"
                    "y<item xmlns:b='urn:b' b:code='c'/>tail</a:order>"));
+}
+
+// Of every length around those at which a name changes its form, and with characters that do not fit every form.
+TEST(Document, NamesComeBackWhole)
+{
+    CXmlDocument document;
+    const CXmlElement* const root = document.AddDocElement(L"", L"r");
+    std::set<std::wstring> names;
+    for (const wchar_t special : {L'n', L'\0', L'\r', L'|', L'\xE9', static_cast<wchar_t>(0x1F600)}) {
+        for (const std::size_t length : {1, 3, 4, 15, 16, 17, 127, 128, 129, 300}) {
+            for (const std::size_t place : {std::size_t{0}, length / 2, length - 1}) {
+                std::wstring name(length, L'n');
+                name[place] = special;
+                const CXmlElement* const element = document.AddChildElement(L"urn:a", name);
+                document.EndElement();
+                EXPECT_TRUE(name == element->GetLocalName()) << length << ' ' << place << ' ' << int(special);
+                names.insert(name);
+            }
+        }
+    }
+    for (const std::wstring& name : names) {
+        const CXmlElement* const again = document.AddChildElement(L"urn:a", name);
+        document.EndElement();
+        std::size_t count = 0;
+        for (const CXmlElement* child = root->GetFirstElement(); child; child = child->GetNextSiblingElement()) {
+            count += child->GetLocalName() == name;
+        }
+        EXPECT_LE(2u, count) << name.size();
+        EXPECT_TRUE(name == again->GetLocalName()) << name.size();
+    }
 }
 
 TEST(Document, BuilderRefusesToWorkWithoutAnOpenElement)

@@ -85,6 +85,26 @@ TEST(Parser, TellsNamesApartThatBeginAlike)
     }
 }
 
+// The parser moves what it has when names get longer and attributes more.
+TEST(Parser, TagsOfEverySizeArriveWhole)
+{
+    std::string begin, end;
+    std::wstring expected, closing;
+    for (std::size_t size = 1; size <= 2000; size += 1 + size / 2) {
+        const std::string name(size, 'n');
+        begin += "<" + name;
+        expected += (expected.empty() ? L"" : L" (") + std::wstring(size, L'n');
+        closing += expected.size() == size ? L"" : L")";
+        for (std::size_t i = 0; i < size / 8; ++i) {
+            begin += " a" + std::to_string(i) + "='" + name + "'";
+            expected += L" @a" + std::to_wstring(i) + L"=" + std::wstring(size, L'n');
+        }
+        begin += " xmlns:p" + name + "='urn:" + name + "'>";
+        end.insert(0, "</" + name + ">");
+    }
+    EXPECT_EQ(expected + closing, ParsedTree((begin + end).c_str()));
+}
+
 TEST(Parser, ReportsErrorsWithTheirLine)
 {
     const std::pair<const char*, const wchar_t*> cases[] = {{"<a>\n<b>\n</a>", L"mismatched tag at line 3"},
