@@ -79,7 +79,8 @@ TEST(LiteralText, OfLocalNamesOfEveryLength)
                 LoadExactly(document, FastInfoset("3C") + name + Octets("3C 80 F0 00 FF") + rest);
                 const CXmlElement* const root = document.GetDocumentElement();
                 const CXmlElement* const first = root->GetFirstElement();
-                for (const CXmlElement* element : {root, first, first->GetNextSiblingElement()}) {
+                const CXmlElement* const second = first->GetNextSiblingElement();
+                for (const CXmlElement* element : {root, first, second}) {
                     EXPECT_TRUE(before + special.inValue + behind == element->GetLocalName());
                 }
             }
