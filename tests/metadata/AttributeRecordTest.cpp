@@ -63,6 +63,33 @@ TEST(AttributeRecord, keeps_PrimitivesThatNeverIgnoreNamespaces)
     EXPECT_EQ("order{b=red}", Read(type, bare, ignoring));
 }
 
+TEST(AttributeRecord, IsSoughtAnewInEveryReadOfATree)
+{
+    const TestClass line = Class(L"line").Attr(L"b").EnumAttr(L"a");
+    const TestClass type =
+        Class(L"order").AnyAttributes().EnumAttr(L"a").Ns(L"urn:a").Attr(L"b").Cls(L"line", line).Col();
+    CSerializationContext ignoring;
+    ignoring.SetIgnoreNamespaces(true);
+    const auto read = [&](const CXmlDocument& document, const CSerializationContext& context) {
+        TestObject order(type);
+        order.FromXmlElement(document.GetDocumentElement(), context);
+        return DescribeObject(order);
+    };
+    const struct {
+        std::string xml;
+        std::wstring lines;
+    } cases[] = {
+        {"", L"}"}, {"<line a='blue' b='3'/><line b='4' a='red'/>", L",line=[line{b=3,a=blue},line{b=4,a=red}]}"}};
+    for (const auto& row : cases) {
+        CXmlDocument document;
+        document.LoadXml(("<order a='red' b='2'>" + row.xml + "</order>").c_str());
+        for (int round = 0; round < 2; ++round) {
+            EXPECT_EQ(L"order{b=2" + row.lines, read(document, CSerializationContext()));
+            EXPECT_EQ(L"order{a=red,b=2" + row.lines, read(document, ignoring));
+        }
+    }
+}
+
 TEST(AttributeRecord, WildcardsCollectWhatNoOtherRecordTakes)
 {
     const TestClass type =
