@@ -43,7 +43,7 @@ TEST(Document, NamesComeBackWhole)
     const CXmlElement* const root = document.AddDocElement(L"", L"r");
     std::set<std::wstring> names;
     for (const wchar_t special : {L'n', L'\0', L'\r', L'|', L'\xE9', static_cast<wchar_t>(0x1F600)}) {
-        for (const std::size_t length : {1, 3, 4, 15, 16, 17, 127, 128, 129, 300}) {
+        for (const std::size_t length : {1u, 3u, 4u, 15u, 16u, 17u, 127u, 128u, 129u, 300u}) {
             for (const std::size_t place : {std::size_t{0}, length / 2, length - 1}) {
                 std::wstring name(length, L'n');
                 name[place] = special;
