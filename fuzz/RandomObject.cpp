@@ -109,17 +109,17 @@ public:
         const bool isChoice = data.group == ZrXmlLib16Data::XmlElementGroup_Choice;
         const std::size_t chosen = isChoice ? ChooseElement(data) : 0;
         for (std::size_t i = 0; i < data.properties.size(); ++i) {
-            const PropertySpec& spec = data.properties[i];
-            if (!isChoice || !IsElement(spec) || i == chosen)
-                FillProperty(object, spec, isChoice ? IsElement(spec) : m_restrictions.unwritableInJson);
+            const PropertySpec& property = data.properties[i];
+            if (!isChoice || !IsElement(property) || i == chosen)
+                FillProperty(object, property, isChoice ? IsElement(property) : m_restrictions.unwritableInJson);
         }
     }
 
 private:
-    static bool IsElement(const PropertySpec& spec)
+    static bool IsElement(const PropertySpec& property)
     {
-        return spec.kind != RecordKind::Attr && spec.kind != RecordKind::EnumAttr && spec.kind != RecordKind::AnyAttr
-            && spec.kind != RecordKind::Value;
+        return property.kind != RecordKind::Attr && property.kind != RecordKind::EnumAttr
+            && property.kind != RecordKind::AnyAttr && property.kind != RecordKind::Value;
     }
 
     std::size_t ChooseElement(const ClassData& data)
@@ -131,41 +131,41 @@ private:
         return elements.empty() ? 0 : elements[m_input.Below(static_cast<unsigned>(elements.size()))];
     }
 
-    void FillProperty(TestObject& object, const PropertySpec& spec, bool isNeeded)
+    void FillProperty(TestObject& object, const PropertySpec& property, bool isNeeded)
     {
-        if (spec.kind == RecordKind::AnyAttr) {
+        if (property.kind == RecordKind::AnyAttr) {
             if (isNeeded || m_input.Flag())
-                object.Attributes(spec.name.c_str())
+                object.Attributes(property.name.c_str())
                     ->Add(L"urn:other", AttributeText(ItemType_string).c_str(), L"extra");
-        } else if (spec.occurs == Occurs::Collection) {
+        } else if (property.occurs == Occurs::Collection) {
             for (unsigned n = m_input.Below(4) + (isNeeded ? 1 : 0); n > 0; --n)
-                AddChild(object, spec);
-        } else if (spec.occurs == Occurs::Optional && !isNeeded && m_input.Flag()) {
+                AddChild(object, property);
+        } else if (property.occurs == Occurs::Optional && !isNeeded && m_input.Flag()) {
             return;
-        } else if (spec.kind == RecordKind::Cls || spec.kind == RecordKind::AbsCls) {
-            AddChild(object, spec);
-        } else if (spec.kind == RecordKind::Enum || spec.kind == RecordKind::EnumAttr) {
-            object[spec.name.c_str()].SetI4(static_cast<long>(m_input.Below(3)));
+        } else if (property.kind == RecordKind::Cls || property.kind == RecordKind::AbsCls) {
+            AddChild(object, property);
+        } else if (property.kind == RecordKind::Enum || property.kind == RecordKind::EnumAttr) {
+            object[property.name.c_str()].SetI4(static_cast<long>(m_input.Below(3)));
         } else {
-            if (spec.kind == RecordKind::Attr) {
-                object.Set(spec.name.c_str(), AttributeText(spec.itemType).c_str());
+            if (property.kind == RecordKind::Attr) {
+                object.Set(property.name.c_str(), AttributeText(property.itemType).c_str());
                 return;
             }
             // An empty element means its default value.
-            const std::wstring text = Text(spec.itemType);
-            object.Set(spec.name.c_str(), text.empty() ? spec.defaultValue.c_str() : text.c_str());
+            const std::wstring text = Text(property.itemType);
+            object.Set(property.name.c_str(), text.empty() ? property.defaultValue.c_str() : text.c_str());
         }
     }
 
     // Abstract elements hold what the sample has for them.
-    void AddChild(TestObject& object, const PropertySpec& spec)
+    void AddChild(TestObject& object, const PropertySpec& property)
     {
-        if (spec.kind == RecordKind::AbsCls) {
+        if (property.kind == RecordKind::AbsCls) {
             static const TestClass derived =
                 Class(L"fuzzDerived").TypeAttribute().Prim(L"text").Prim(L"more", ItemType_boolean);
-            Fill(*object.Add(spec.name.c_str(), &derived), derived);
+            Fill(*object.Add(property.name.c_str(), &derived), derived);
         } else {
-            Fill(*object.Add(spec.name.c_str()), TestClass::ById(spec.classId));
+            Fill(*object.Add(property.name.c_str()), TestClass::ById(property.classId));
         }
     }
 

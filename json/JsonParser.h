@@ -42,6 +42,7 @@ private:
     void ParseObject(int depth);
     void ParseMember(int depth);
     void ParseArray(int depth);
+    bool TakeComma(wchar_t closing, const wchar_t* messageAtEnd, const wchar_t* messageAtMismatch);
 
     static constexpr int MAXIMUM_DEPTH = 100;
     // Each item of an array repeats its name in the XML: without a limit one long name would fill the memory.
@@ -107,21 +108,9 @@ template <class Receiver> void JsonParser<Receiver>::ParseObject(int depth)
     if (m_scanner.GetCurrent() == L'}') {
         return;
     }
-    for (;;) {
+    do {
         ParseMember(depth);
-        if (m_scanner.IsAtEnd()) {
-            m_scanner.Fail(Message::JSON_END_IN_OBJECT);
-        }
-        if (m_scanner.GetCurrent() == L'}') {
-            return;
-        }
-        if (m_scanner.GetCurrent() != L',') {
-            m_scanner.FailAtCharacter(Message::JSON_OBJECT_COMMA_EXPECTED);
-        }
-        if (!m_scanner.ReadNextToken()) {
-            m_scanner.Fail(Message::JSON_END_IN_OBJECT);
-        }
-    }
+    } while (TakeComma(L'}', Message::JSON_END_IN_OBJECT, Message::JSON_OBJECT_COMMA_EXPECTED));
 }
 
 template <class Receiver> void JsonParser<Receiver>::ParseMember(int depth)
@@ -154,21 +143,28 @@ template <class Receiver> void JsonParser<Receiver>::ParseArray(int depth)
     if (m_scanner.GetCurrent() == L']') {
         return;
     }
-    for (;;) {
+    do {
         ParseValue(depth);
-        if (m_scanner.IsAtEnd()) {
-            m_scanner.Fail(Message::JSON_END_IN_ARRAY);
-        }
-        if (m_scanner.GetCurrent() == L']') {
-            return;
-        }
-        if (m_scanner.GetCurrent() != L',') {
-            m_scanner.FailAtCharacter(Message::JSON_ARRAY_COMMA_EXPECTED);
-        }
-        if (!m_scanner.ReadNextToken()) {
-            m_scanner.Fail(Message::JSON_END_IN_ARRAY);
-        }
+    } while (TakeComma(L']', Message::JSON_END_IN_ARRAY, Message::JSON_ARRAY_COMMA_EXPECTED));
+}
+
+/// Behind a member or an item: whether one more follows, which is then the current token.
+template <class Receiver>
+bool JsonParser<Receiver>::TakeComma(wchar_t closing, const wchar_t* messageAtEnd, const wchar_t* messageAtMismatch)
+{
+    if (m_scanner.IsAtEnd()) {
+        m_scanner.Fail(messageAtEnd);
     }
+    if (m_scanner.GetCurrent() == closing) {
+        return false;
+    }
+    if (m_scanner.GetCurrent() != L',') {
+        m_scanner.FailAtCharacter(messageAtMismatch);
+    }
+    if (!m_scanner.ReadNextToken()) {
+        m_scanner.Fail(messageAtEnd);
+    }
+    return true;
 }
 
 } // namespace ZrXmlLib16

@@ -39,11 +39,9 @@ CAttributeInfo::~CAttributeInfo() = default;
 
 bool CAttributeInfo::IsThisAttribute(const CSerializationContext& context, CXmlAttribute* attribute) const
 {
-    if (!attribute || NodeAccess::IsTaker(*attribute, this)) {
-        return attribute != nullptr;
-    }
-    return NodeAccess::GetObjectName(*attribute).Is(m_attributeName)
-        && (context.GetIgnoreNamespaces() || SameText(attribute->GetNamespaceURI(), m_namespace));
+    return attribute
+        && (HasName(*attribute)
+            || (context.GetIgnoreNamespaces() && NodeAccess::GetObjectName(*attribute).Is(m_attributeName)));
 }
 
 bool CAttributeInfo::HasName(const CXmlAttribute& attribute) const

@@ -37,7 +37,7 @@ struct PrimKind {
     typedef NoData Data;
     static const wchar_t* const MISSING;
     static bool Write(const CElementInfo& record, const WriteCall& call);
-    /// In line: most elements are read here.
+    /// In line, and what ReadingAt does written out, because compilers leave that a call: most elements are read here.
     [[gnu::always_inline]] static bool Read(CElementInfo& record, const Data&, const ReadCall& call, Occurrence)
     {
         const ZrXmlLib16::CXmlElement& element = **call.current;
